@@ -1,0 +1,197 @@
+#include "convert.h"
+
+#include "defaultfloats.h"
+#include "qorcc.h"
+
+namespace qor {
+namespace {
+
+QorStatus checkPointers(const Format& format, const Argument& image) {
+  if (image.hasNull) return qorStsNullPtrErr;
+  for (int p = 0; p < format.pointers; ++p)
+    if (!image.plane[p]) return qorStsNullPtrErr;
+  return qorStsNoErr;
+}
+
+QorStatus checkSteps(const Format& format, const Argument& image, int width, int elementSize) {
+  if (image.isTight) return qorStsNoErr;
+  for (int p = 0; p < format.pointers; ++p)
+    if (image.step[p] < format.rowBytes(p, width, elementSize)) return qorStsStepErr;
+  return qorStsNoErr;
+}
+
+bool isLayout(int layout) {
+  return layout == qoriSliceUpper || layout == qoriSliceMiddle || layout == qoriSliceLower ||
+         layout == qoriSliceWhole;
+}
+
+QorStatus check(const Function& f, const Argument& source, const Argument& target, QoriSize size,
+                const Extras& extras) {
+  QorStatus status = checkPointers(f.source, source);
+  if (status == qorStsNoErr) status = checkPointers(f.target, target);
+  if (status == qorStsNoErr && extras.hasCoeffs && !extras.coeffs) status = qorStsNullPtrErr;
+  if (status == qorStsNoErr && extras.problem == qorStsNullPtrErr) status = extras.problem;
+  if (status == qorStsNoErr && (size.width < 1 || size.height < 1)) status = qorStsSizeErr;
+  if (status == qorStsNoErr) status = checkSteps(f.source, source, size.width, f.sourceSize);
+  if (status == qorStsNoErr) status = checkSteps(f.target, target, size.width, f.targetSize);
+  if (status == qorStsNoErr && !isLayout(extras.layout)) status = qorStsBadArgErr;
+  return status == qorStsNoErr ? extras.problem : status;
+}
+
+ptrdiff_t stepOf(const Format& format, const Argument& image, int p, int width, int elementSize) {
+  return image.isTight ? static_cast<ptrdiff_t>(format.rowBytes(p, width, elementSize)) : image.step[p];
+}
+
+Source sourceOf(const Function& f, const Argument& image, QoriSize size, int layout) {
+  Source s;
+  for (int p = 0; p < f.source.pointers; ++p) {
+    s.plane[p] = static_cast<const uint8_t*>(image.plane[p]);
+    s.step[p] = stepOf(f.source, image, p, size.width, f.sourceSize);
+  }
+  const bool hasAbove = layout == qoriSliceMiddle || layout == qoriSliceLower;
+  const bool hasBelow = layout == qoriSliceMiddle || layout == qoriSliceUpper;
+  s.firstChroma = hasAbove ? -1 : 0;
+  s.lastChroma = (size.height - 1) / 2 + (hasBelow ? 1 : 0);
+  return s;
+}
+
+Target targetOf(const Function& f, const Argument& image, QoriSize size) {
+  Target t;
+  for (int p = 0; p < f.target.pointers; ++p) {
+    t.plane[p] = const_cast<uint8_t*>(static_cast<const uint8_t*>(image.plane[p]));
+    t.step[p] = stepOf(f.target, image, p, size.width, f.targetSize);
+  }
+  return t;
+}
+
+void fillAlpha(Tile& tile, const void* alpha, int elementSize) {
+  uint8_t* row = tile.bytes[3][0];
+  for (int i = 0; i < kTileBytes / elementSize; ++i)
+    __builtin_memcpy(row + i * elementSize, alpha, elementSize);
+}
+
+// The log of 1, 2 and 4.
+int sizeIndex(int elementSize) {
+  return elementSize / 2;
+}
+
+// The tiles of one call and what happens to them.
+class Run {
+ public:
+  Run(const Function& f, const Source& source, const Target& target, const Matrix& matrix)
+      : f_(f),
+        source_(source),
+        target_(target),
+        matrix_(matrix),
+        load_(f.source.load[sizeIndex(f.sourceSize)]),
+        store_(f.target.store[sizeIndex(f.targetSize)]),
+        pixels_(kTileBytes / (f.sourceSize > f.targetSize ? f.sourceSize : f.targetSize)),
+        keepsAlpha_(f.source.channels == 4 && f.target.channels == 4) {}
+
+  void setAlpha(const void* alpha) { fillAlpha(out_, alpha, f_.targetSize); }
+
+  // Rows from `first` to before `last`, which begin with a group of the target.
+  void rows(int first, int last, QoriSize size) {
+    for (int y = first; y < last; y += f_.target.groupRows)
+      for (int x = 0; x < size.width; x += pixels_) {
+        const int right = size.width - x, below = size.height - y;
+        tile({x, y, right < pixels_ ? right : pixels_,
+              below < f_.target.groupRows ? below : f_.target.groupRows, size.height});
+      }
+  }
+
+ private:
+  void tile(const Place& at) {
+    for (int r = 0; r < at.rows; ++r) row({at.x, at.y + r, at.n, 1, at.height}, r);
+    store_(target_, at, out_.rows(f_.targetOrder));
+  }
+
+  void row(const Place& at, int r) {
+    const TileRows out = rowOf(out_, kOrder_abc, r);
+    if (!f_.transform.apply) return load_(source_, at, rowOf(out_, f_.sourceOrder, r));
+    load_(source_, at, in_.rows(f_.sourceOrder));
+    // First, since a transform of four channels writes alpha anew.
+    if (keepsAlpha_) __builtin_memcpy(out.plane[3], in_.bytes[3][0], at.n * f_.targetSize);
+    f_.transform.apply(in_.rows(kOrder_abc), out, at.n, matrix_);
+  }
+
+  static TileRows rowOf(Tile& tile, const uint8_t* order, int r) {
+    TileRows rows = tile.rows(order);
+    for (uint8_t*& plane : rows.plane) plane += r * kRowBytes;
+    return rows;
+  }
+
+  const Function& f_;
+  const Source& source_;
+  const Target& target_;
+  const Matrix& matrix_;
+  const Load load_;
+  const Store store_;
+  const int pixels_;       // of a tile
+  const bool keepsAlpha_;  // from the source; otherwise it is the caller's, if written at all
+  Tile in_, out_;
+};
+
+Matrix matrixOf(const Function& f, const Source& source, QoriSize size, const Extras& extras) {
+  if (extras.matrix) return *extras.matrix;
+  if (f.transform.prepare) return f.transform.prepare(source, size);
+  Matrix m = *f.transform.matrix;
+  if (extras.coeffs)
+    for (int i = 0; i < 3; ++i) m.m[0][i] = extras.coeffs[i];
+  return m;
+}
+
+// Groups of rows in equal parts.
+Share share(int height, int groupRows, int part, int parts) {
+  const int64_t groups = (int64_t{height} + groupRows - 1) / groupRows;
+  const int64_t first = groups * part / parts * groupRows, last = groups * (part + 1) / parts * groupRows;
+  return {static_cast<int>(first), static_cast<int>(last < height ? last : height)};
+}
+
+struct Job {
+  const Function& f;
+  const Source source;
+  const Target target;
+  const Matrix matrix;
+  const QoriSize size;
+  const void* alpha;  // null: none
+};
+
+// Where chroma of the same resolution moves only from one place to another.
+Copy directCopy(const Function& f) {
+  if (f.transform.apply) return nullptr;
+  for (const DirectCopy& row : kDirectCopies)
+    if (&f.source == row.source && &f.target == row.target) return row.copy;
+  return nullptr;
+}
+
+void convertRows(const Job& job, const Share& rows) {
+  if (const Copy copy = directCopy(job.f))
+    return copy({job.source, job.target, job.f.sourceOrder, job.f.targetOrder, job.size}, rows);
+  const DefaultFloats floats;
+  Run run(job.f, job.source, job.target, job.matrix);
+  if (job.alpha) run.setAlpha(job.alpha);
+  run.rows(rows.first, rows.last, job.size);
+}
+
+void convertAll(const Job& job, int threads) {
+  const int groupRows = job.f.target.groupRows, groups = (job.size.height - 1) / groupRows + 1;
+  if (threads > groups) threads = groups;
+  if (threads == 1) return convertRows(job, {0, job.size.height});
+#pragma omp parallel num_threads(threads)
+  convertRows(job, share(job.size.height, groupRows, omp_get_thread_num(), omp_get_num_threads()));
+}
+
+}  // namespace
+
+QorStatus convert(const Function& f, Argument source, Argument target, QoriSize size, const Extras& extras) {
+  const QorStatus status = check(f, source, target, size, extras);
+  if (status != qorStsNoErr) return status;
+  const DefaultFloats floats;
+  const Source from = sourceOf(f, source, size, extras.layout);
+  const Matrix matrix = matrixOf(f, from, size, extras);
+  convertAll({f, from, targetOf(f, target, size), matrix, size, extras.alpha}, qorGetState().threads);
+  return qorStsNoErr;
+}
+
+}  // namespace qor

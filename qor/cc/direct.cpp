@@ -1,0 +1,110 @@
+// direct.cpp: samples that only move, from plane to plane, without a tile.
+#include "formats.h"
+#include "simd.h"
+
+namespace qor {
+namespace {
+
+// n pairs to two rows.
+void splitRow(const uint8_t* pairs, int n, uint8_t* first, uint8_t* second) {
+  int i = 0;
+  for (; i + kVec <= n; i += kVec) {
+    const Vec low = load(pairs + 2 * i), high = load(pairs + 2 * i + kVec);
+    store(first + i, narrow(bitAnd(low, all16(0xFF)), bitAnd(high, all16(0xFF))));
+    store(second + i, narrow(shiftRight16<8>(low), shiftRight16<8>(high)));
+  }
+  for (; i < n; ++i) {
+    first[i] = pairs[2 * i];
+    second[i] = pairs[2 * i + 1];
+  }
+}
+
+void mergeRow(const uint8_t* first, const uint8_t* second, int n, uint8_t* pairs) {
+  constexpr int step = kVec / 2;
+  int i = 0;
+  for (; i + step <= n; i += step)
+    store(pairs + 2 * i, bitOr(widen(first + i), shiftLeft16<8>(widen(second + i))));
+  for (; i < n; ++i) {
+    pairs[2 * i] = first[i];
+    pairs[2 * i + 1] = second[i];
+  }
+}
+
+// Rows without padding are one long row.
+void copyLuma(const Move& m, const Share& rows) {
+  if (m.source.step[0] == m.size.width && m.target.step[0] == m.size.width) {
+    const size_t bytes = static_cast<size_t>(m.size.width) * static_cast<size_t>(rows.last - rows.first);
+    __builtin_memcpy(m.target.row(0, rows.first), m.source.row(0, rows.first), bytes);
+    return;
+  }
+  for (int y = rows.first; y < rows.last; ++y)
+    __builtin_memcpy(m.target.row(0, y), m.source.row(0, y), m.size.width);
+}
+
+// The planes of Cb and Cr, in the order in which the pairs have them.
+struct ChromaPlanes {
+  int first, second;
+};
+ChromaPlanes chromaPlanes(const uint8_t* pairs, const uint8_t* planes) {
+  const bool same = pairs[1] == planes[1];
+  return {same ? 1 : 2, same ? 2 : 1};
+}
+
+void splitPairs420(const Move& m, const Share& rows) {
+  copyLuma(m, rows);
+  const ChromaPlanes to = chromaPlanes(m.sourceOrder, m.targetOrder);
+  for (int y = rows.first / 2; y < (rows.last + 1) / 2; ++y)
+    splitRow(m.source.row(1, y), (m.size.width + 1) / 2, m.target.row(to.first, y),
+             m.target.row(to.second, y));
+}
+
+void mergePairs420(const Move& m, const Share& rows) {
+  copyLuma(m, rows);
+  const ChromaPlanes from = chromaPlanes(m.targetOrder, m.sourceOrder);
+  for (int y = rows.first / 2; y < (rows.last + 1) / 2; ++y)
+    mergeRow(m.source.row(from.first, y), m.source.row(from.second, y), (m.size.width + 1) / 2,
+             m.target.row(1, y));
+}
+
+// Y0 Cb Y1 Cr to three rows. What the vectors leave, an odd last pixel among it, is
+// taken one by one.
+void splitYuyvRow(const uint8_t* in, int width, uint8_t* y, uint8_t* cb, uint8_t* cr) {
+  const Vec low = all16(0xFF);
+  int i = 0;
+  for (; i + 2 * kVec <= width; i += 2 * kVec) {
+    Vec chroma[2];
+    for (int k = 0; k < 2; ++k) {
+      const Vec a = load(in + 2 * i + 2 * k * kVec), b = load(in + 2 * i + (2 * k + 1) * kVec);
+      store(y + i + k * kVec, narrow(bitAnd(a, low), bitAnd(b, low)));
+      chroma[k] = narrow(shiftRight16<8>(a), shiftRight16<8>(b));
+    }
+    store(cb + i / 2, narrow(bitAnd(chroma[0], low), bitAnd(chroma[1], low)));
+    store(cr + i / 2, narrow(shiftRight16<8>(chroma[0]), shiftRight16<8>(chroma[1])));
+  }
+  for (; i < width; ++i) {
+    y[i] = in[2 * i];
+    if (i % 2 == 0)
+      cb[i / 2] = in[2 * i + 1];
+    else
+      cr[i / 2] = in[2 * i + 1];
+  }
+  // Without its other half the last pair has the Cr of the pair before.
+  if (width % 2 != 0) cr[width / 2] = width > 1 ? cr[width / 2 - 1] : 128;
+}
+
+void splitYuyv(const Move& m, const Share& rows) {
+  const ChromaPlanes to = chromaPlanes(m.sourceOrder, m.targetOrder);
+  for (int y = rows.first; y < rows.last; ++y)
+    splitYuyvRow(m.source.row(0, y), m.size.width, m.target.row(0, y), m.target.row(to.first, y),
+                 m.target.row(to.second, y));
+}
+
+}  // namespace
+
+const DirectCopy kDirectCopies[] = {
+    {&kP2x420, &kP3x420, splitPairs420},
+    {&kP3x420, &kP2x420, mergePairs420},
+    {&kYuyv, &kP3x422, splitYuyv},
+};
+
+}  // namespace qor

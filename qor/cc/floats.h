@@ -1,0 +1,116 @@
+// floats.h: pixels as floats, a vector of them at a time.
+//
+// Compiler vectors: arithmetic and comparisons are written as for one float, and a
+// condition ? : chooses in each place.
+#ifndef QOR_CC_FLOATS_H
+#define QOR_CC_FLOATS_H
+
+#include "ranges.h"
+#include "simd.h"
+
+namespace qor {
+
+constexpr int kFloats = kVec / 4;
+using Floats [[gnu::vector_size(kVec)]] = float;
+using Ints [[gnu::vector_size(kVec)]] = int;
+
+// Anywhere in memory.
+using FloatsInMemory [[gnu::vector_size(kVec), gnu::aligned(1), gnu::may_alias]] = float;
+
+inline Floats all(float v) {
+  return Floats{} + v;
+}
+inline Floats atLeast(Floats v, float low) {
+  return v > low ? v : all(low);
+}
+inline Floats atMost(Floats v, float high) {
+  return v < high ? v : all(high);
+}
+inline Floats larger(Floats a, Floats b) {
+  return a > b ? a : b;
+}
+inline Floats smaller(Floats a, Floats b) {
+  return a < b ? a : b;
+}
+
+// kFloats elements. g++ 12 takes the compiler's own conversions from bytes and
+// words apart, hence the intrinsics.
+inline Floats loadFloats(const Qor32f* p) {
+  return *reinterpret_cast<const FloatsInMemory*>(p);
+}
+inline Floats toFloats(Vec doubleWords) {
+  return reinterpret_cast<Floats>(QORCC_V(cvtepi32_ps)(doubleWords));
+}
+inline Floats loadFloats(const Qor8u* p) {
+#if defined(__AVX512VBMI__)
+  return toFloats(_mm512_cvtepu8_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))));
+#elif defined(__AVX2__)
+  return toFloats(_mm256_cvtepu8_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))));
+#else
+  int four;
+  __builtin_memcpy(&four, p, sizeof four);
+  return toFloats(low16(low8(_mm_cvtsi32_si128(four), zero()), zero()));
+#endif
+}
+inline Floats loadFloats(const Qor16u* p) {
+#if defined(__AVX512VBMI__)
+  return toFloats(_mm512_cvtepu16_epi32(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p))));
+#elif defined(__AVX2__)
+  return toFloats(_mm256_cvtepu16_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))));
+#else
+  return toFloats(low16(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)), zero()));
+#endif
+}
+inline Floats loadFloats(const Qor16s* p) {
+#if defined(__AVX512VBMI__)
+  return toFloats(_mm512_cvtepi16_epi32(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p))));
+#elif defined(__AVX2__)
+  return toFloats(_mm256_cvtepi16_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))));
+#else
+  return toFloats(
+      shiftRightSigned32<16>(low16(zero(), _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))));
+#endif
+}
+
+// The low byte or word of each double word, one behind the other.
+inline void storeLow(Qor8u* p, Vec v) {
+#if defined(__AVX512VBMI__)
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(p), _mm512_cvtepi32_epi8(v));
+#elif defined(__AVX2__)
+  const __m256i bytes = narrow(v, v, v, v);
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm256_castsi256_si128(bytes));
+#else
+  const int four = _mm_cvtsi128_si32(narrow(v, v, v, v));
+  __builtin_memcpy(p, &four, sizeof four);
+#endif
+}
+inline void storeLow(Qor16s* p, Vec v) {
+#if defined(__AVX512VBMI__)
+  _mm256_storeu_si256(reinterpret_cast<__m256i*>(p), _mm512_cvtepi32_epi16(v));
+#elif defined(__AVX2__)
+  const __m256i words = _mm256_permute4x64_epi64(pack32(v, v), 0xD8);
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(p), _mm256_castsi256_si128(words));
+#else
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(p), pack32(v, v));
+#endif
+}
+// Sign-extended words are packed without saturation.
+inline void storeLow(Qor16u* p, Vec v) {
+  storeLow(reinterpret_cast<Qor16s*>(p), shiftRightSigned32<16>(shiftLeft32<16>(v)));
+}
+
+// To nearest, half up, saturated, as element() does; floats unchanged.
+template <class T>
+inline void storeElements(T* p, Floats v) {
+  if constexpr (Range<T>::span == 1) {
+    *reinterpret_cast<FloatsInMemory*>(p) = v;
+  } else {
+    const Floats clamped = atMost(atLeast(v - Range<T>::low, 0), Range<T>::span);
+    const Ints whole = __builtin_convertvector(clamped + 0.5f, Ints) + static_cast<int>(Range<T>::low);
+    storeLow(p, reinterpret_cast<Vec>(whole));
+  }
+}
+
+}  // namespace qor
+
+#endif

@@ -1,0 +1,61 @@
+// formats.h: how does each pixel format lie in memory, who loads and who stores it?
+#ifndef QOR_CC_FORMATS_H
+#define QOR_CC_FORMATS_H
+
+#include "tile.h"
+
+namespace qor {
+
+// Loads one row into row 0 of the tile (place.rows is 1).
+using Load = void (*)(const Source&, const Place&, const TileRows& out);
+
+// Stores place.rows rows, a whole group of the format or what is left of it.
+using Store = void (*)(const Target&, const Place&, const TileRows& in);
+
+struct Format {
+  int pointers;   // in the argument: 1 packed, 2 luma and chroma pairs, 3 or 4 planes
+  int perPixel;   // elements of one pixel behind the first pointer
+  int perChroma;  // elements of one sample behind the others; 0 if there are none
+  int hshift;     // pixels per chroma sample in a row, as a power of two
+  int groupRows;  // rows that are stored together
+  int channels;   // planes of a tile that it fills or uses
+  Load load[3];   // for elements of 1, 2 and 4 bytes; null: no function needs it
+  Store store[3];
+
+  // Bytes of a row behind pointer p that a call reads or writes.
+  int64_t rowBytes(int p, int width, int elementSize) const {
+    if (p == 0) return int64_t{width} * perPixel * elementSize;
+    const int shift = p == 3 ? 0 : hshift;
+    return ((int64_t{width} + (1 << shift) - 1) >> shift) * perChroma * elementSize;
+  }
+};
+
+// Some rows, from the first to before the last.
+struct Share {
+  int first, last;
+};
+
+// A conversion that rearranges samples without a tile.
+struct Move {
+  const Source& source;
+  const Target& target;
+  const uint8_t *sourceOrder, *targetOrder;
+  QoriSize size;
+};
+using Copy = void (*)(const Move&, const Share& rows);
+
+struct DirectCopy {
+  const Format *source, *target;
+  Copy copy;
+};
+extern const DirectCopy kDirectCopies[3];
+
+extern const Format kC1, kC3, kAC4, kC4, kP3, kP4;
+extern const Format kRgb565, kRgb555, kRgb444, kRgb565Dither, kRgb555Dither, kRgb444Dither;
+extern const Format kYuyv, kUyvy;
+extern const Format kP3x422, kP3x411, kP3x1620, kP3x420, kP3x420Interlaced, kP3x420Filtered;
+extern const Format kP2x411, kP2x420, kP2x420Filtered;
+
+}  // namespace qor
+
+#endif

@@ -1,0 +1,185 @@
+// formats_packed.cpp: interleaved channels, whole planes and 16-bit pixels.
+#include "formats.h"
+#include "simd.h"
+
+namespace qor {
+namespace {
+
+// For pixels of 3 and 4 bytes. What is left of a row goes through a buffer, as no
+// byte behind it may be touched; rows of a tile have room behind their end.
+template <int stride, int channels>
+void loadBytes(const uint8_t* in, int n, uint8_t* const* plane) {
+  uint8_t rest[stride * kVec];
+  for (int i = 0; i < n; i += kVec) {
+    const uint8_t* from = in + stride * i;
+    if (n - i < kVec) from = static_cast<const uint8_t*>(__builtin_memcpy(rest, from, stride * (n - i)));
+    if constexpr (stride == 3) {
+      const Vec3 v = load3(from);
+      store(plane[0] + i, v.a);
+      store(plane[1] + i, v.b);
+      store(plane[2] + i, v.c);
+    } else {
+      const Vec4 v = load4(from);
+      store(plane[0] + i, v.a);
+      store(plane[1] + i, v.b);
+      store(plane[2] + i, v.c);
+      if (channels == 4) store(plane[3] + i, v.d);
+    }
+  }
+}
+
+template <int stride>
+void storeBytes(uint8_t* out, int n, uint8_t* const* plane) {
+  uint8_t rest[stride * kVec];
+  for (int i = 0; i < n; i += kVec) {
+    uint8_t *whole = out + stride * i, *to = n - i < kVec ? rest : whole;
+    if constexpr (stride == 3) {
+      store3(to, {load(plane[0] + i), load(plane[1] + i), load(plane[2] + i)});
+    } else {
+      for (int k = 0; k < kVec; k += kVec / 2)
+        storeZipped16(to + 4 * k, bitOr(widen(plane[0] + i + k), shiftLeft16<8>(widen(plane[1] + i + k))),
+                      bitOr(widen(plane[2] + i + k), shiftLeft16<8>(widen(plane[3] + i + k))));
+    }
+    if (to == rest) __builtin_memcpy(whole, rest, stride * (n - i));
+  }
+}
+
+// A pixel has `stride` elements, of which the first `channels` count.
+template <class E, int stride, int channels>
+void loadChannels(const Source& s, const Place& at, const TileRows& out) {
+  const E* in = reinterpret_cast<const E*>(s.row(0, at.y)) + static_cast<ptrdiff_t>(at.x) * stride;
+  if constexpr (sizeof(E) == 1)
+    return loadBytes<stride, channels>(reinterpret_cast<const uint8_t*>(in), at.n, out.plane);
+  E* plane[channels];
+  for (int c = 0; c < channels; ++c) plane[c] = reinterpret_cast<E*>(out.row(c, 0));
+  for (int i = 0; i < at.n; ++i)
+    for (int c = 0; c < channels; ++c) plane[c][i].bits = in[i * stride + c].bits;
+}
+
+template <class E, int stride, int channels>
+void storeChannels(const Target& d, const Place& at, const TileRows& in) {
+  E* out = reinterpret_cast<E*>(d.row(0, at.y)) + static_cast<ptrdiff_t>(at.x) * stride;
+  // Not with an alpha that mustn't be written.
+  if constexpr (sizeof(E) == 1 && stride == channels)
+    return storeBytes<stride>(reinterpret_cast<uint8_t*>(out), at.n, in.plane);
+  const E* plane[channels];
+  for (int c = 0; c < channels; ++c) plane[c] = reinterpret_cast<const E*>(in.row(c, 0));
+  for (int i = 0; i < at.n; ++i)
+    for (int c = 0; c < channels; ++c) out[i * stride + c].bits = plane[c][i].bits;
+}
+
+template <class E, int planes>
+void loadPlanes(const Source& s, const Place& at, const TileRows& out) {
+  for (int p = 0; p < planes; ++p)
+    __builtin_memcpy(out.row(p, 0), s.row(p, at.y) + at.x * ptrdiff_t{sizeof(E)}, at.n * sizeof(E));
+}
+
+template <class E, int planes>
+void storePlanes(const Target& d, const Place& at, const TileRows& in) {
+  for (int p = 0; p < planes; ++p)
+    __builtin_memcpy(d.row(p, at.y) + at.x * ptrdiff_t{sizeof(E)}, in.row(p, 0), at.n * sizeof(E));
+}
+
+// A field of 16-bit pixels as bytes in words: its high bits are repeated below.
+template <int from, int bits>
+inline Vec field(Vec pixels) {
+  const Vec v = bitAnd(shiftRight16<from>(pixels), all16((1 << bits) - 1));
+  return bitOr(shiftLeft16<8 - bits>(v), shiftRight16<2 * bits - 8>(v));
+}
+
+template <int bitsA, int bitsB, int bitsC>
+void load16(const Source& s, const Place& at, const TileRows& out) {
+  const Bytes2* in = reinterpret_cast<const Bytes2*>(s.row(0, at.y)) + at.x;
+  uint8_t* __restrict a = out.row(0, 0), * __restrict b = out.row(1, 0), * __restrict c = out.row(2, 0);
+  uint8_t rest[2 * kVec];
+  for (int i = 0; i < at.n; i += kVec) {
+    const void* from = in + i;
+    if (at.n - i < kVec) from = __builtin_memcpy(rest, from, 2 * (at.n - i));
+    const Vec low = load(from), high = load(static_cast<const uint8_t*>(from) + kVec);
+    store(a + i, narrow(field<0, bitsA>(low), field<0, bitsA>(high)));
+    store(b + i, narrow(field<bitsA, bitsB>(low), field<bitsA, bitsB>(high)));
+    store(c + i, narrow(field<bitsA + bitsB, bitsC>(low), field<bitsA + bitsB, bitsC>(high)));
+  }
+}
+
+// 0..15, each once, neighbours as unlike as possible (B. E. Bayer, ICC 1973).
+constexpr uint8_t kBayer[4][4] = {{0, 8, 2, 10}, {12, 4, 14, 6}, {3, 11, 1, 9}, {15, 7, 13, 5}};
+
+// The upper bits of kVec / 2 bytes, as words. A threshold below one step of the
+// shortened channel, 0..15 for 4 bits, comes first.
+template <int bits, bool dither>
+inline Vec cut(const uint8_t* bytes, Vec bayer) {
+  const Vec v = widen(bytes);
+  return shiftRight16<8 - bits>(dither ? saturatingAdd8(v, shiftRight16<bits - 4>(bayer)) : v);
+}
+
+inline Vec bayerWords(int y) {
+  uint16_t words[kVec / 2];
+  for (int i = 0; i < kVec / 2; ++i) words[i] = kBayer[y & 3][i & 3];
+  return load(words);
+}
+
+template <int bitsA, int bitsB, int bitsC, bool dither>
+void store16(const Target& d, const Place& at, const TileRows& in) {
+  constexpr int pixels = kVec / 2;
+  uint8_t* out = d.row(0, at.y) + ptrdiff_t{2} * at.x;
+  const uint8_t *a = in.row(0, 0), *b = in.row(1, 0), *c = in.row(2, 0);
+  const Vec bayer = bayerWords(at.y);
+  for (int i = 0; i < at.n; i += pixels) {
+    const Vec va = cut<bitsA, dither>(a + i, bayer), vb = cut<bitsB, dither>(b + i, bayer),
+              vc = cut<bitsC, dither>(c + i, bayer);
+    const Vec words = bitOr(va, bitOr(shiftLeft16<bitsA>(vb), shiftLeft16<bitsA + bitsB>(vc)));
+    if (at.n - i >= pixels) {
+      store(out + 2 * i, words);
+    } else {
+      uint8_t rest[kVec];
+      store(rest, words);
+      __builtin_memcpy(out + 2 * i, rest, 2 * (at.n - i));
+    }
+  }
+}
+
+template <int stride, int channels>
+constexpr Format interleaved() {
+  return {1,
+          stride,
+          0,
+          0,
+          1,
+          channels,
+          {loadChannels<Bytes1, stride, channels>, loadChannels<Bytes2, stride, channels>,
+           loadChannels<Bytes4, stride, channels>},
+          {storeChannels<Bytes1, stride, channels>, storeChannels<Bytes2, stride, channels>,
+           storeChannels<Bytes4, stride, channels>}};
+}
+
+template <int planes>
+constexpr Format planar() {
+  return {planes,
+          1,
+          1,
+          0,
+          1,
+          planes,
+          {loadPlanes<Bytes1, planes>, loadPlanes<Bytes2, planes>, loadPlanes<Bytes4, planes>},
+          {storePlanes<Bytes1, planes>, storePlanes<Bytes2, planes>, storePlanes<Bytes4, planes>}};
+}
+
+template <int a, int b, int c, bool dither>
+constexpr Format pixels16() {
+  return {
+      1, 1, 0, 0, 1, 3, {nullptr, load16<a, b, c>, nullptr}, {nullptr, store16<a, b, c, dither>, nullptr}};
+}
+
+}  // namespace
+
+const Format kC1 = planar<1>(), kP3 = planar<3>(), kP4 = planar<4>();
+const Format kC3 = interleaved<3, 3>(), kAC4 = interleaved<4, 3>(), kC4 = interleaved<4, 4>();
+const Format kRgb565 = pixels16<5, 6, 5, false>();
+const Format kRgb555 = pixels16<5, 5, 5, false>();
+const Format kRgb444 = pixels16<4, 4, 4, false>();
+const Format kRgb565Dither = pixels16<5, 6, 5, true>();
+const Format kRgb555Dither = pixels16<5, 5, 5, true>();
+const Format kRgb444Dither = pixels16<4, 4, 4, true>();
+
+}  // namespace qor

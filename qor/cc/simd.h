@@ -1,0 +1,342 @@
+// simd.h: the vocabulary of one code path: bytes and words in vectors.
+//
+// A Vec has kVec bytes: 16 on the SSE paths, 32 with AVX2, 64 with AVX-512. What
+// is "in lanes" works on each 16 bytes for themselves: taking bytes apart by
+// low/high and packing them again restores their order at any width. All the rest
+// is in the order of memory.
+#ifndef QOR_CC_SIMD_H
+#define QOR_CC_SIMD_H
+
+#include <immintrin.h>
+#include <stdint.h>
+
+namespace qor {
+
+#if defined(__AVX512VBMI__)
+using Vec = __m512i;
+#define QORCC_V(name) _mm512_##name
+#define QORCC_BITS(name) _mm512_##name##_si512
+#elif defined(__AVX2__)
+using Vec = __m256i;
+#define QORCC_V(name) _mm256_##name
+#define QORCC_BITS(name) _mm256_##name##_si256
+#else
+using Vec = __m128i;
+#define QORCC_V(name) _mm_##name
+#define QORCC_BITS(name) _mm_##name##_si128
+#endif
+constexpr int kVec = sizeof(Vec);
+
+inline Vec load(const void* p) {
+  return QORCC_BITS(loadu)(static_cast<const Vec*>(p));
+}
+inline void store(void* p, Vec v) {
+  QORCC_BITS(storeu)(static_cast<Vec*>(p), v);
+}
+inline Vec zero() {
+  return QORCC_BITS(setzero)();
+}
+inline Vec all16(int v) {
+  return QORCC_V(set1_epi16)(static_cast<short>(v));
+}
+inline Vec all32(int v) {
+  return QORCC_V(set1_epi32)(v);
+}
+inline Vec bitAnd(Vec a, Vec b) {
+  return QORCC_BITS(and)(a, b);
+}
+inline Vec bitOr(Vec a, Vec b) {
+  return QORCC_BITS(or)(a, b);
+}
+inline Vec add16(Vec a, Vec b) {
+  return QORCC_V(add_epi16)(a, b);
+}
+inline Vec sub16(Vec a, Vec b) {
+  return QORCC_V(sub_epi16)(a, b);
+}
+inline Vec add32(Vec a, Vec b) {
+  return QORCC_V(add_epi32)(a, b);
+}
+template <int bits>
+inline Vec shiftRight16(Vec v) {
+  return QORCC_V(srli_epi16)(v, bits);
+}
+template <int bits>
+inline Vec shiftLeft16(Vec v) {
+  return QORCC_V(slli_epi16)(v, bits);
+}
+template <int bits>
+inline Vec shiftRight32(Vec v) {
+  return QORCC_V(srli_epi32)(v, bits);
+}
+template <int bits>
+inline Vec shiftLeft32(Vec v) {
+  return QORCC_V(slli_epi32)(v, bits);
+}
+template <int bits>
+inline Vec shiftRightSigned32(Vec v) {
+  return QORCC_V(srai_epi32)(v, bits);
+}
+// a0 b0 + a1 b1, in 32 bits, for each pair of signed words.
+inline Vec multiplyPairs(Vec a, Vec b) {
+  return QORCC_V(madd_epi16)(a, b);
+}
+// sum + a0 b0 + a1 b1.
+inline Vec addPairs(Vec sum, Vec a, Vec b) {
+#if defined(__AVX512VNNI__)
+  return _mm512_dpwssd_epi32(sum, a, b);
+#else
+  return add32(sum, multiplyPairs(a, b));
+#endif
+}
+inline Vec saturatingAdd8(Vec a, Vec b) {
+  return QORCC_V(adds_epu8)(a, b);
+}
+
+// In lanes.
+inline Vec low8(Vec a, Vec b) {
+  return QORCC_V(unpacklo_epi8)(a, b);
+}
+inline Vec high8(Vec a, Vec b) {
+  return QORCC_V(unpackhi_epi8)(a, b);
+}
+inline Vec low16(Vec a, Vec b) {
+  return QORCC_V(unpacklo_epi16)(a, b);
+}
+inline Vec high16(Vec a, Vec b) {
+  return QORCC_V(unpackhi_epi16)(a, b);
+}
+// Signed to signed, saturated; in lanes.
+inline Vec pack32(Vec a, Vec b) {
+  return QORCC_V(packs_epi32)(a, b);
+}
+// Signed to unsigned, saturated; in lanes.
+inline Vec pack16(Vec a, Vec b) {
+  return QORCC_V(packus_epi16)(a, b);
+}
+
+// kVec / 2 bytes to words.
+inline Vec widen(const uint8_t* p) {
+#if defined(__AVX512VBMI__)
+  return _mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)));
+#elif defined(__AVX2__)
+  return _mm256_cvtepu8_epi16(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p)));
+#else
+  return _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)), zero());
+#endif
+}
+
+// Words of 0..255, kVec of them, to bytes.
+inline Vec narrow(Vec a, Vec b) {
+#if defined(__AVX512VBMI__)
+  const Vec order = _mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7);
+  return _mm512_permutexvar_epi64(order, pack16(a, b));
+#elif defined(__AVX2__)
+  return _mm256_permute4x64_epi64(pack16(a, b), 0xD8);
+#else
+  return pack16(a, b);
+#endif
+}
+
+// Double words of 0..255, kVec of them, to bytes.
+inline Vec narrow(Vec a, Vec b, Vec c, Vec d) {
+  const Vec bytes = pack16(pack32(a, b), pack32(c, d));
+#if defined(__AVX512VBMI__)
+  const Vec order = _mm512_setr_epi32(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15);
+  return _mm512_permutexvar_epi32(order, bytes);
+#elif defined(__AVX2__)
+  return _mm256_permutevar8x32_epi32(bytes, _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7));
+#else
+  return bytes;
+#endif
+}
+
+// a0 b0 a1 b1 ... of words.
+inline void storeZipped16(void* to, Vec a, Vec b) {
+  const Vec low = low16(a, b), high = high16(a, b);
+  uint8_t* p = static_cast<uint8_t*>(to);
+#if defined(__AVX512VBMI__)
+  const Vec first = _mm512_setr_epi64(0, 1, 8, 9, 2, 3, 10, 11);
+  const Vec second = _mm512_setr_epi64(4, 5, 12, 13, 6, 7, 14, 15);
+  store(p, _mm512_permutex2var_epi64(low, first, high));
+  store(p + kVec, _mm512_permutex2var_epi64(low, second, high));
+#elif defined(__AVX2__)
+  store(p, _mm256_permute2x128_si256(low, high, 0x20));
+  store(p + kVec, _mm256_permute2x128_si256(low, high, 0x31));
+#else
+  store(p, low);
+  store(p + kVec, high);
+#endif
+}
+
+struct Vec3 {
+  Vec a, b, c;
+};
+struct Vec4 {
+  Vec a, b, c, d;
+};
+
+// kVec pixels of four bytes.
+inline Vec4 load4(const uint8_t* p) {
+  const Vec x0 = load(p), x1 = load(p + kVec), x2 = load(p + 2 * kVec), x3 = load(p + 3 * kVec);
+  const Vec low = all32(0xFF);
+  return {narrow(bitAnd(x0, low), bitAnd(x1, low), bitAnd(x2, low), bitAnd(x3, low)),
+          narrow(bitAnd(shiftRight32<8>(x0), low), bitAnd(shiftRight32<8>(x1), low),
+                 bitAnd(shiftRight32<8>(x2), low), bitAnd(shiftRight32<8>(x3), low)),
+          narrow(bitAnd(shiftRight32<16>(x0), low), bitAnd(shiftRight32<16>(x1), low),
+                 bitAnd(shiftRight32<16>(x2), low), bitAnd(shiftRight32<16>(x3), low)),
+          narrow(shiftRight32<24>(x0), shiftRight32<24>(x1), shiftRight32<24>(x2), shiftRight32<24>(x3))};
+}
+
+// Where byte q of the vector j of three interleaved ones goes, or comes from. On
+// SSE4.2 and AVX2 each channel has every byte place of a lane in exactly one of
+// the three vectors, so two blends and one shuffle collect it.
+#if defined(__AVX512VBMI__)
+
+struct alignas(64) Bytes64 {
+  uint8_t at[64];
+};
+constexpr Bytes64 kSplitFirst(int channel) {
+  Bytes64 r = {};
+  for (int k = 0; k < 64; ++k) r.at[k] = static_cast<uint8_t>(3 * k + channel < 128 ? 3 * k + channel : 0);
+  return r;
+}
+// Index 64 + ... is the third vector.
+constexpr Bytes64 kSplitSecond(int channel) {
+  Bytes64 r = {};
+  for (int k = 0; k < 64; ++k)
+    r.at[k] = static_cast<uint8_t>(3 * k + channel < 128 ? k : 64 + 3 * k + channel - 128);
+  return r;
+}
+// Vector j of three: first a and b, then c into it.
+constexpr Bytes64 kJoinFirst(int j) {
+  Bytes64 r = {};
+  for (int q = 0; q < 64; ++q) {
+    const int p = 64 * j + q;
+    r.at[q] = static_cast<uint8_t>(p % 3 == 0 ? p / 3 : p % 3 == 1 ? 64 + p / 3 : 0);
+  }
+  return r;
+}
+constexpr Bytes64 kJoinSecond(int j) {
+  Bytes64 r = {};
+  for (int q = 0; q < 64; ++q) {
+    const int p = 64 * j + q;
+    r.at[q] = static_cast<uint8_t>(p % 3 == 2 ? 64 + p / 3 : q);
+  }
+  return r;
+}
+
+template <int channel>
+inline Vec split(Vec x0, Vec x1, Vec x2) {
+  static constexpr Bytes64 first = kSplitFirst(channel), second = kSplitSecond(channel);
+  return _mm512_permutex2var_epi8(_mm512_permutex2var_epi8(x0, load(&first), x1), load(&second), x2);
+}
+template <int j>
+inline Vec join(const Vec3& v) {
+  static constexpr Bytes64 first = kJoinFirst(j), second = kJoinSecond(j);
+  return _mm512_permutex2var_epi8(_mm512_permutex2var_epi8(v.a, load(&first), v.b), load(&second), v.c);
+}
+inline Vec3 load3(const uint8_t* p) {
+  const Vec x0 = load(p), x1 = load(p + kVec), x2 = load(p + 2 * kVec);
+  return {split<0>(x0, x1, x2), split<1>(x0, x1, x2), split<2>(x0, x1, x2)};
+}
+inline void store3(uint8_t* p, const Vec3& v) {
+  store(p, join<0>(v));
+  store(p + kVec, join<1>(v));
+  store(p + 2 * kVec, join<2>(v));
+}
+
+#elif defined(__SSE4_1__)
+
+struct alignas(16) Bytes16 {
+  uint8_t at[16];
+};
+// Byte places q with q % 3 == r.
+constexpr Bytes16 kThird(int r) {
+  Bytes16 m = {};
+  for (int q = 0; q < 16; ++q) m.at[q] = q % 3 == r ? 0xFF : 0;
+  return m;
+}
+constexpr Bytes16 kSplit(int channel) {
+  Bytes16 m = {};
+  for (int k = 0; k < 16; ++k) m.at[k] = static_cast<uint8_t>((3 * k + channel) % 16);
+  return m;
+}
+constexpr Bytes16 kJoin(int channel) {
+  Bytes16 m = {};
+  for (int q = 0; q < 16; ++q) {
+    const int j = (channel - q % 3 + 3) % 3;
+    m.at[q] = static_cast<uint8_t>((16 * j + q) / 3);
+  }
+  return m;
+}
+
+inline Vec lanes(const Bytes16& m) {
+  const __m128i lane = _mm_load_si128(reinterpret_cast<const __m128i*>(&m));
+#if defined(__AVX2__)
+  return _mm256_broadcastsi128_si256(lane);
+#else
+  return lane;
+#endif
+}
+// Of three vectors the one whose number is (first + place) % 3.
+inline Vec choose(Vec v0, Vec v1, Vec v2) {
+  static constexpr Bytes16 third1 = kThird(1), third2 = kThird(2);
+  return QORCC_V(blendv_epi8)(QORCC_V(blendv_epi8)(v0, v1, lanes(third1)), v2, lanes(third2));
+}
+// Lanes 48 bytes apart.
+inline Vec loadLanes(const uint8_t* p) {
+#if defined(__AVX2__)
+  return _mm256_inserti128_si256(_mm256_castsi128_si256(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))),
+                                 _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + 48)), 1);
+#else
+  return load(p);
+#endif
+}
+inline void storeLanes(uint8_t* p, Vec v) {
+#if defined(__AVX2__)
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(p), _mm256_castsi256_si128(v));
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(p + 48), _mm256_extracti128_si256(v, 1));
+#else
+  store(p, v);
+#endif
+}
+inline Vec3 load3(const uint8_t* p) {
+  static constexpr Bytes16 split0 = kSplit(0), split1 = kSplit(1), split2 = kSplit(2);
+  const Vec x0 = loadLanes(p), x1 = loadLanes(p + 16), x2 = loadLanes(p + 32);
+  return {QORCC_V(shuffle_epi8)(choose(x0, x2, x1), lanes(split0)),
+          QORCC_V(shuffle_epi8)(choose(x1, x0, x2), lanes(split1)),
+          QORCC_V(shuffle_epi8)(choose(x2, x1, x0), lanes(split2))};
+}
+inline void store3(uint8_t* p, const Vec3& v) {
+  static constexpr Bytes16 join0 = kJoin(0), join1 = kJoin(1), join2 = kJoin(2);
+  const Vec a = QORCC_V(shuffle_epi8)(v.a, lanes(join0)), b = QORCC_V(shuffle_epi8)(v.b, lanes(join1)),
+            c = QORCC_V(shuffle_epi8)(v.c, lanes(join2));
+  storeLanes(p, choose(a, b, c));
+  storeLanes(p + 16, choose(b, c, a));
+  storeLanes(p + 32, choose(c, a, b));
+}
+
+#else
+
+// Each round interleaves halves; after the fourth every channel is together.
+inline Vec3 load3(const uint8_t* p) {
+  Vec x0 = load(p), x1 = load(p + 16), x2 = load(p + 32);
+  for (int round = 0; round < 4; ++round) {
+    const Vec y0 = low8(x0, _mm_unpackhi_epi64(x1, x1)), y1 = low8(_mm_unpackhi_epi64(x0, x0), x2),
+              y2 = low8(x1, _mm_unpackhi_epi64(x2, x2));
+    x0 = y0, x1 = y1, x2 = y2;
+  }
+  return {x0, x1, x2};
+}
+inline void store3(uint8_t* p, const Vec3& v) {
+  alignas(16) uint8_t a[16], b[16], c[16];
+  store(a, v.a), store(b, v.b), store(c, v.c);
+  for (int i = 0; i < 16; ++i) p[3 * i] = a[i], p[3 * i + 1] = b[i], p[3 * i + 2] = c[i];
+}
+
+#endif
+
+}  // namespace qor
+
+#endif

@@ -1,0 +1,39 @@
+// transforms.cpp: the table of transforms with their matrices.
+#include "transforms.h"
+
+#include "matrices.h"
+
+namespace qor {
+namespace {
+
+// Matrix columns of transforms.def. What is linear without an offset maps
+// 16s's numbers as they are, hence kGray's range of 1.
+#define QORCC_MATRIX(name, map, type, low, span) \
+  constexpr Matrix kMatrix##name##type = forRange(map, low, span);
+#define QORCC_MATRIX_BOTH(space, type, low, span)       \
+  QORCC_MATRIX(RgbTo##space, k##space, type, low, span) \
+  QORCC_MATRIX(space##ToRgb, inverse(k##space), type, low, span)
+#define QORCC_MATRIX_TYPES(space)               \
+  QORCC_MATRIX_BOTH(space, _8u, 0, 255)         \
+  QORCC_MATRIX_BOTH(space, _16u, 0, 65535)      \
+  QORCC_MATRIX_BOTH(space, _16s, -32768, 65535) \
+  QORCC_MATRIX_BOTH(space, _32f, 0, 1)
+
+QORCC_MATRIX_BOTH(Ycbcr601, , 0, 255)
+QORCC_MATRIX_BOTH(Ycbcr709Hdtv, , 0, 255)
+QORCC_MATRIX_BOTH(Ycbcr709Csc, , 0, 255)
+QORCC_MATRIX_BOTH(Yuv, , 0, 255)
+QORCC_MATRIX_TYPES(Ycc)
+QORCC_MATRIX_TYPES(Xyz)
+QORCC_MATRIX(Gray, kGray, , 0, 1)
+QORCC_MATRIX(Gray, kGray, _8u, 0, 255)
+constexpr Matrix kMatrixNone = {};
+
+}  // namespace
+
+#define QORCC_TRANSFORM(name, apply, matrix, prepare) \
+  const Transform k##name = {apply, &kMatrix##matrix, prepare};
+#include "transforms.def"
+#undef QORCC_TRANSFORM
+
+}  // namespace qor

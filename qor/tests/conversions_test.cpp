@@ -1,0 +1,187 @@
+// Every function against the reference: values, bytes that must stay, sources.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+#include "calls.h"
+#include "reference.h"
+
+namespace {
+
+struct Mean {
+  double sum = 0;
+  int count = 0;
+  int component = 0;
+
+  double value() const { return sum / count; }
+};
+
+// How far a result may lie from the rounded reference, in counts of an integer,
+// or as a share of the value (of 1, if that is more) for floats.
+double tolerance(const Names& n) {
+  if (n.source.space == n.target.space || n.target.space == "YCoCg" || n.source.space == "YCoCg") return 0;
+  if (n.target.type != "32f") return 1;
+  // u* and v* are 13 L times a difference of two fractions near 0.2 and 0.5.
+  return n.target.space == "LUV" ? 2e-4 : n.source.space == "LUV" ? 5e-5 : 1e-6;
+}
+
+double rounded(double v, const Layout& l) {
+  if (l.type == "32f") return v;
+  return std::clamp(std::floor(v + 0.5), l.low(), l.high());
+}
+
+double distance(const Layout& l, int component, double got, double wanted) {
+  double d = std::abs(got - wanted);
+  // Both ends of the range are the same hue.
+  if (component == 0 && (l.space == "HLS" || l.space == "HSV")) d = std::min(d, l.high() - l.low() - d);
+  return l.type == "32f" ? d / std::max(1.0, std::abs(wanted)) : d;
+}
+
+// Bayer's threshold by its recursive definition, 0..15.
+int bayer(int x, int y) {
+  const int two[2][2] = {{0, 2}, {3, 1}};
+  return 4 * two[y & 1][x & 1] + two[y / 2 & 1][x / 2 & 1];
+}
+
+class Comparison {
+ public:
+  Comparison(const Entry& e, int width, int height, int padding, unsigned seed)
+      : entry_(e),
+        names_(parse(e.name)),
+        source_(names_.source, width, height, isTight(e.sourcePart) ? 0 : padding),
+        target_(names_.target, width, height, isTight(e.targetPart) ? 0 : padding + 2) {
+    std::mt19937 random(seed);
+    source_.fillRandom(random);
+  }
+
+  // False after the first failure.
+  bool run() {
+    const auto before = source_.copy();
+    const Call call = callOf(source_, target_);
+    for (int i = 0; i < 3; ++i) around_.coeffs[i] = call.coeffs[i];
+    EXPECT_EQ(entry_.run(call), qorStsNoErr) << where();
+    EXPECT_TRUE(before == source_.copy()) << where() << ": source changed";
+    measureSource();
+    collect();
+    return compare() && compareRest() && !testing::Test::HasFailure();
+  }
+
+ private:
+  static bool isTight(const std::string& part) { return part.ends_with("Tight"); }
+
+  std::string where() const {
+    return entry_.name + " " + std::to_string(source_.width) + "x" + std::to_string(source_.height);
+  }
+
+  void measureSource() {
+    around_.least = 1e30, around_.most = -1e30, around_.mean = 0;
+    for (int y = 0; y < source_.height; ++y)
+      for (int x = 0; x < source_.width; ++x) {
+        const double v = source_.component(0, x, y);
+        around_.least = std::min(around_.least, v);
+        around_.most = std::max(around_.most, v);
+        around_.mean += v / source_.width / source_.height;
+      }
+  }
+
+  int sourceComponents() const { return source_.layout.channels == 1 && !source_.layout.bits16[0] ? 1 : 3; }
+  int targetComponents() const { return target_.layout.channels == 1 && !target_.layout.bits16[0] ? 1 : 3; }
+
+  void collect() {
+    for (int y = 0; y < source_.height; ++y)
+      for (int x = 0; x < source_.width; ++x) {
+        Triple t = {};
+        for (int c = 0; c < sourceComponents(); ++c) t[c] = source_.component(c, x, y);
+        t = expected(names_, t, around_);
+        for (int c = 0; c < targetComponents(); ++c) add(c, x, y, t[c]);
+        if (target_.layout.hasAlpha) add(3, x, y, source_.layout.hasAlpha ? source_.component(3, x, y) : 7);
+      }
+  }
+
+  void add(int c, int x, int y, double v) {
+    const auto at = locate(target_.layout, c, x, y, target_.width, target_.height);
+    if (!at) return;
+    Mean& m = wanted_[{*at, target_.layout.bits16[0] ? c : 0}];
+    m.sum += target_.layout.type == "32f" ? v : std::clamp(v, target_.layout.low(), target_.layout.high());
+    ++m.count;
+    m.component = c;
+  }
+
+  bool compare() {
+    for (const auto& [key, mean] : wanted_) {
+      const Location at = key.first;
+      const bool good = target_.layout.bits16[0] ? fieldFits(at, mean) : valueFits(at, mean);
+      if (good) continue;
+      ADD_FAILURE() << where() << " plane " << at.plane << " row " << at.row << " element " << at.index
+                    << ": " << target_.value(at) << ", wanted "
+                    << (target_.layout.bits16[0] ? "in a field " : "") << mean.value();
+      return false;
+    }
+    return true;
+  }
+
+  bool valueFits(const Location& at, const Mean& mean) const {
+    const double got = target_.value(at), wanted = rounded(mean.value(), target_.layout);
+    return distance(target_.layout, mean.component, got, wanted) <= tolerance(names_);
+  }
+
+  // The field may come from any 8-bit value within the tolerance.
+  bool fieldFits(const Location& at, const Mean& mean) const {
+    const Layout& l = target_.layout;
+    const int field = l.order[mean.component], bits = l.bits16[field];
+    const int shift = field == 0 ? 0 : field == 1 ? l.bits16[0] : l.bits16[0] + l.bits16[1];
+    const int word = static_cast<int>(target_.value(at)), got = word >> shift & ((1 << bits) - 1);
+    const int step = 256 >> bits, threshold = l.dither ? bayer(at.index, at.row) * step / 16 : 0;
+    const auto cut = [&](double v) { return std::min(255, std::clamp(int(v), 0, 255) + threshold) / step; };
+    const double v = std::floor(std::clamp(mean.value(), 0.0, 255.0) + 0.5);
+    const bool rest = word >> (l.bits16[0] + l.bits16[1] + l.bits16[2]) == 0;
+    return rest && got >= cut(v - tolerance(names_)) && got <= cut(v + tolerance(names_));
+  }
+
+  // Bytes that hold no sample are as they were.
+  bool compareRest() const {
+    for (int p = 0; p < target_.planeCount(); ++p) {
+      std::vector<bool> written = target_.mask(p);
+      for (const auto& [key, mean] : wanted_)
+        if (key.first.plane == p)
+          for (int i = 0; i < target_.layout.elementSize(); ++i)
+            written[target_.offset(key.first) + i] = true;
+      for (size_t i = 0; i < written.size(); ++i)
+        if (!written[i] && target_.plane(p)[i] != 0xA5) {
+          ADD_FAILURE() << where() << " plane " << p << " byte " << i << " written, of a step of "
+                        << target_.step(p);
+          return false;
+        }
+    }
+    return true;
+  }
+
+  const Entry& entry_;
+  const Names names_;
+  Image source_, target_;
+  Surroundings around_;
+  std::map<std::pair<Location, int>, Mean> wanted_;
+};
+
+TEST(Conversions, AreThreeHundredAndEighty) {
+  EXPECT_EQ(entries().size(), 380u);
+  for (const Entry& e : entries()) EXPECT_FALSE(parse(e.name).base.empty()) << e.name;
+}
+
+TEST(Conversions, GiveTheReferenceValuesAndTouchNothingElse) {
+  // Heights: groups of two and four lines with every remainder.
+  for (const Entry& e : entries())
+    for (int width : {1, 2, 3, 5, 7, 16, 17, 63})
+      for (int height : {1, 2, 3, 5, 6, 7, 8})
+        if (!Comparison(e, width, height, 5, unsigned(width * 100 + height)).run()) return;
+}
+
+TEST(Conversions, AreTheSameAcrossTiles) {
+  for (const Entry& e : entries())
+    for (int padding : {0, 1})
+      if (!Comparison(e, 1047, 5, padding, 7).run()) return;
+}
+
+}  // namespace

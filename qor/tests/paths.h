@@ -1,0 +1,33 @@
+// paths.h: how does a test run on every code path that this processor has?
+#ifndef QOR_TESTS_PATHS_H
+#define QOR_TESTS_PATHS_H
+
+#include <vector>
+
+#include "qorcore.h"
+
+// Codes for qorInitCpu, from the floor up.
+inline std::vector<int> pathCodes() {
+  std::vector<int> codes;
+  for (int code : {65, 69, 70, 38})
+    if (qorInitCpu(code) == qorStsNoErr) codes.push_back(code);
+  qorInit();
+  return codes;
+}
+
+// The path for as long as it lives, then the best one again.
+class OnPath {
+ public:
+  explicit OnPath(int code) { qorInitCpu(code); }
+  ~OnPath() { qorInit(); }
+  OnPath(const OnPath&) = delete;
+};
+
+class WithThreads {
+ public:
+  explicit WithThreads(int n) { qorSetNumThreads(n); }
+  ~WithThreads() { qorSetNumThreads(1); }
+  WithThreads(const WithThreads&) = delete;
+};
+
+#endif

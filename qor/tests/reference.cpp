@@ -1,0 +1,266 @@
+#include "reference.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <stdexcept>
+
+namespace {
+
+Triple fractions(const Triple& t, const Layout& l) {
+  Triple r;
+  for (int i = 0; i < 3; ++i) r[i] = (t[i] - l.low()) / (l.high() - l.low());
+  return r;
+}
+Triple elements(const Triple& t, const Layout& l) {
+  Triple r;
+  for (int i = 0; i < 3; ++i) r[i] = l.low() + t[i] * (l.high() - l.low());
+  return r;
+}
+
+double transferCurve(double light) {
+  return light < 0.018 ? 4.5 * light : 1.099 * std::pow(light, 0.45) - 0.099;
+}
+
+// YCbCr and YUV: 0..255 in and out.
+Triple toYcbcr(const Triple& c, const std::string& variant) {
+  const auto [r, g, b] = c;
+  if (variant == "709HDTV")
+    return {16 + 0.182586 * r + 0.614231 * g + 0.062007 * b, 128 - 0.100644 * r - 0.338572 * g + 0.439216 * b,
+            128 + 0.439216 * r - 0.398942 * g - 0.040274 * b};
+  const double y709 = 0.2126 * r + 0.7152 * g + 0.0722 * b;
+  if (variant == "709CSC") return {y709, 128 + (b - y709) / 1.8556, 128 + (r - y709) / 1.5748};
+  return {16 + (65.481 * r + 128.553 * g + 24.966 * b) / 255,
+          128 + (-37.797 * r - 74.203 * g + 112 * b) / 255, 128 + (112 * r - 93.786 * g - 18.214 * b) / 255};
+}
+
+Triple fromYcbcr(const Triple& c, const std::string& variant) {
+  const double cb = c[1] - 128, cr = c[2] - 128;
+  if (variant == "709CSC")
+    return {c[0] + 1.5748 * cr, c[0] - 0.187324 * cb - 0.468124 * cr, c[0] + 1.8556 * cb};
+  const double y = 1.164384 * (c[0] - 16);
+  if (variant == "709HDTV") return {y + 1.792741 * cr, y - 0.213249 * cb - 0.532909 * cr, y + 2.112402 * cb};
+  return {y + 1.596027 * cr, y - 0.391762 * cb - 0.812968 * cr, y + 2.017232 * cb};
+}
+
+Triple toYuv(const Triple& c) {
+  const double y = 0.299 * c[0] + 0.587 * c[1] + 0.114 * c[2];
+  return {y, 0.492 * (c[2] - y) + 128, 0.877 * (c[0] - y) + 128};
+}
+Triple fromYuv(const Triple& c) {
+  const double u = c[1] - 128, v = c[2] - 128;
+  return {c[0] + v / 0.877, c[0] - 0.394731 * u - 0.580810 * v, c[0] + u / 0.492};
+}
+
+// The rest: fractions of RGB in, fractions of the space out, but for LUV and Lab.
+Triple toYcc(const Triple& c) {
+  const double y = 0.299 * c[0] + 0.587 * c[1] + 0.114 * c[2];
+  return {y / 1.402, (111.40 * (c[2] - y) + 156) / 255, (135.64 * (c[0] - y) + 137) / 255};
+}
+Triple fromYcc(const Triple& c) {
+  const double y = 1.402 * c[0], blue = (255 * c[1] - 156) / 111.40, red = (255 * c[2] - 137) / 135.64;
+  return {y + red, y - (0.114 * blue + 0.299 * red) / 0.587, y + blue};
+}
+
+constexpr double kXyz[3][3] = {
+    {0.412453, 0.357580, 0.180423}, {0.212671, 0.715160, 0.072169}, {0.019334, 0.119193, 0.950227}};
+
+Triple toXyz(const Triple& c) {
+  Triple r = {};
+  for (int i = 0; i < 3; ++i)
+    for (int j = 0; j < 3; ++j) r[i] += kXyz[i][j] * c[j];
+  return r;
+}
+
+double determinant(const double (&m)[3][3]) {
+  return m[0][0] * (m[1][1] * m[2][2] - m[1][2] * m[2][1]) -
+         m[0][1] * (m[1][0] * m[2][2] - m[1][2] * m[2][0]) +
+         m[0][2] * (m[1][0] * m[2][1] - m[1][1] * m[2][0]);
+}
+
+// Cramer's rule: the published inverse has six digits, too few for 16 bits.
+Triple fromXyz(const Triple& xyz) {
+  Triple r;
+  for (int j = 0; j < 3; ++j) {
+    double m[3][3];
+    std::copy(&kXyz[0][0], &kXyz[0][0] + 9, &m[0][0]);
+    for (int i = 0; i < 3; ++i) m[i][j] = xyz[i];
+    r[j] = determinant(m) / determinant(kXyz);
+  }
+  return r;
+}
+
+double hue(const Triple& c, double most, double spread) {
+  if (spread == 0) return 0;
+  const double turn = c[0] == most   ? (c[1] - c[2]) / spread
+                      : c[1] == most ? 2 + (c[2] - c[0]) / spread
+                                     : 4 + (c[0] - c[1]) / spread;
+  return (turn < 0 ? turn + 6 : turn) / 6;
+}
+Triple toHls(const Triple& c) {
+  const auto [least, most] = std::minmax({c[0], c[1], c[2]});
+  const double l = (most + least) / 2, spread = most - least;
+  if (spread == 0) return {0, l, 0};
+  return {hue(c, most, spread), l, l <= 0.5 ? spread / (most + least) : spread / (2 - most - least)};
+}
+Triple toHsv(const Triple& c) {
+  const auto [least, most] = std::minmax({c[0], c[1], c[2]});
+  return {hue(c, most, most - least), most == 0 ? 0 : (most - least) / most, most};
+}
+
+// Foley and van Dam's helper, degrees.
+double hlsValue(double m1, double m2, double degrees) {
+  degrees = std::fmod(degrees + 360, 360);
+  if (degrees < 60) return m1 + (m2 - m1) * degrees / 60;
+  if (degrees < 180) return m2;
+  return degrees < 240 ? m1 + (m2 - m1) * (240 - degrees) / 60 : m1;
+}
+Triple fromHls(const Triple& c) {
+  const auto [h, l, s] = c;
+  const double m2 = l <= 0.5 ? l * (1 + s) : l + s - l * s, m1 = 2 * l - m2;
+  return {hlsValue(m1, m2, 360 * h + 120), hlsValue(m1, m2, 360 * h), hlsValue(m1, m2, 360 * h - 120)};
+}
+Triple fromHsv(const Triple& c) {
+  const auto [h, s, v] = c;
+  const double sixth = std::fmod(6 * h, 6), f = sixth - std::floor(sixth);
+  const double p = v * (1 - s), q = v * (1 - s * f), t = v * (1 - s * (1 - f));
+  const Triple sectors[] = {{v, t, p}, {q, v, p}, {p, v, t}, {p, q, v}, {t, p, v}, {v, p, q}};
+  return sectors[static_cast<int>(sixth)];
+}
+
+constexpr double kLinearBelow = 216.0 / 24389;
+
+// D65 by the matrix above.
+constexpr double kWhite[3] = {0.950456, 1, 1.088754}, kWhiteSum = kWhite[0] + 15 + 3 * kWhite[2];
+constexpr double kWhiteU = 4 * kWhite[0] / kWhiteSum, kWhiteV = 9 / kWhiteSum;
+
+Triple toLuv(const Triple& rgb) {
+  const auto [x, y, z] = toXyz(rgb);
+  const double l = y > kLinearBelow ? 116 * std::cbrt(y) - 16 : 24389.0 / 27 * y, sum = x + 15 * y + 3 * z;
+  if (sum == 0) return {0, 0, 0};
+  return {l, 13 * l * (4 * x / sum - kWhiteU), 13 * l * (9 * y / sum - kWhiteV)};
+}
+Triple fromLuv(const Triple& c) {
+  if (c[0] <= 0) return {0, 0, 0};
+  const double y = c[0] > 8 ? std::pow((c[0] + 16) / 116, 3) : c[0] * 27 / 24389;
+  // No real colour has a v' near 0: the library stops at a thousandth.
+  const double u = c[1] / (13 * c[0]) + kWhiteU, v = std::max(c[2] / (13 * c[0]) + kWhiteV, 1e-3);
+  return fromXyz({y * 9 * u / (4 * v), y, y * (12 - 3 * u - 20 * v) / (4 * v)});
+}
+
+double labCurve(double t) {
+  return t > kLinearBelow ? std::cbrt(t) : 841.0 / 108 * t + 16.0 / 116;
+}
+double labCurveBack(double f) {
+  return f > 24.0 / 116 ? f * f * f : (f - 16.0 / 116) * 108 / 841;
+}
+Triple toLab(const Triple& rgb) {
+  const Triple xyz = toXyz(rgb);
+  const double fx = labCurve(xyz[0] / kWhite[0]), fy = labCurve(xyz[1]), fz = labCurve(xyz[2] / kWhite[2]);
+  return {116 * fy - 16, 500 * (fx - fy), 200 * (fy - fz)};
+}
+Triple fromLab(const Triple& c) {
+  const double fy = (c[0] + 16) / 116;
+  return fromXyz({kWhite[0] * labCurveBack(fy + c[1] / 500), labCurveBack(fy),
+                  kWhite[2] * labCurveBack(fy - c[2] / 200)});
+}
+
+// LUV and Lab as fractions of an integer's range.
+constexpr Triple kLuvRange[] = {{0, -134, -140}, {100, 354, 262}},
+                 kLabRange[] = {{0, -128, -128}, {100, 255, 255}};
+Triple plainOf(const Triple& t, const Triple (&range)[2]) {
+  return {t[0] * range[1][0] + range[0][0], t[1] * range[1][1] + range[0][1],
+          t[2] * range[1][2] + range[0][2]};
+}
+Triple codeOf(const Triple& t, const Triple (&range)[2]) {
+  return {(t[0] - range[0][0]) / range[1][0], (t[1] - range[0][1]) / range[1][1],
+          (t[2] - range[0][2]) / range[1][2]};
+}
+
+// YCoCg: plain numbers. `wrap` keeps the low bits of a number.
+using Wrap = std::function<int64_t(int64_t)>;
+Wrap wrapTo(int bytes) {
+  if (bytes == 2) return [](int64_t v) { return int64_t{static_cast<int16_t>(v)}; };
+  return [](int64_t v) { return int64_t{static_cast<int32_t>(v)}; };
+}
+int64_t half(int64_t v) {
+  return (v - (v & 1)) / 2;
+}
+
+Triple toYcocg(const Triple& c, bool lossless, const Layout& target) {
+  const double zero = target.type == "8u" ? 128 : 0;
+  const auto [r, g, b] = c;
+  if (!lossless) return {(r + 2 * g + b) / 4, (r - b) / 2 + zero, (2 * g - r - b) / 4 + zero};
+  const Wrap wrap = wrapTo(target.elementSize());
+  const int64_t co = wrap(int64_t(r) - int64_t(b)), t = wrap(int64_t(b) + half(co));
+  const int64_t cg = wrap(int64_t(g) - t);
+  return {double(wrap(t + half(cg))), double(co), double(cg)};
+}
+Triple fromYcocg(const Triple& c, bool lossless, const Layout& source) {
+  const double zero = source.type == "8u" ? 128 : 0;
+  if (!lossless) {
+    const double y = c[0], co = c[1] - zero, cg = c[2] - zero;
+    return {y - cg + co, y + cg, y - cg - co};
+  }
+  const Wrap wrap = wrapTo(source.elementSize());
+  const int64_t y = int64_t(c[0]), co = int64_t(c[1]), cg = int64_t(c[2]);
+  const int64_t t = wrap(y - half(cg)), b = wrap(t - half(co));
+  return {double(wrap(b + co)), double(wrap(cg + t)), double(b)};
+}
+
+using Map = Triple (*)(const Triple&);
+
+Triple fromRgb(const Names& n, const Triple& rgb) {
+  static const std::map<std::string, Map> maps = {{"YCC", toYcc}, {"XYZ", toXyz}, {"HLS", toHls},
+                                                  {"HSV", toHsv}, {"LUV", toLuv}, {"Lab", toLab}};
+  const std::string& space = n.target.space;
+  const Triple t = maps.at(space)(fractions(rgb, n.source));
+  if (space == "LUV" && n.target.type == "32f") return t;
+  return elements(space == "LUV"   ? codeOf(t, kLuvRange)
+                  : space == "Lab" ? codeOf(t, kLabRange)
+                                   : t,
+                  n.target);
+}
+
+Triple toRgb(const Names& n, const Triple& source) {
+  static const std::map<std::string, Map> maps = {{"YCC", fromYcc}, {"XYZ", fromXyz}, {"HLS", fromHls},
+                                                  {"HSV", fromHsv}, {"LUV", fromLuv}, {"Lab", fromLab}};
+  const std::string& space = n.source.space;
+  Triple t = fractions(source, n.source);
+  if (space == "LUV") t = n.source.type == "32f" ? source : plainOf(t, kLuvRange);
+  if (space == "Lab") t = plainOf(t, kLabRange);
+  return elements(maps.at(space)(t), n.target);
+}
+
+double weighted(const Triple& c, const double (&w)[3]) {
+  return c[0] * w[0] + c[1] * w[1] + c[2] * w[2];
+}
+
+Triple gammaCoded(const Triple& c) {
+  Triple r;
+  for (int i = 0; i < 3; ++i) r[i] = 255 * transferCurve(c[i] / 255);
+  return r;
+}
+
+}  // namespace
+
+Triple expected(const Names& n, const Triple& source, const Surroundings& around) {
+  const std::string &from = n.source.space, &into = n.target.space;
+  const bool lossless = n.variant == "Rev";
+  if (n.base == "ToneMapLinear")
+    return {around.most == around.least ? 0
+                                        : 255 * (source[0] - around.least) / (around.most - around.least)};
+  if (n.base == "ToneMapMean") return {127.5 * source[0] / around.mean};
+  if (from == into) return source;
+  if (from == "Color") return {weighted(source, around.coeffs)};
+  if (into == "Gray") return {weighted(source, {0.299, 0.587, 0.114})};
+  if (into == "YCbCr") return toYcbcr(n.base.ends_with("Gamma") ? gammaCoded(source) : source, n.variant);
+  if (from == "YCbCr") return fromYcbcr(source, n.variant);
+  if (into == "YUV") return toYuv(source);
+  if (from == "YUV") return fromYuv(source);
+  if (into == "YCoCg") return toYcocg(source, lossless, n.target);
+  if (from == "YCoCg") return fromYcocg(source, lossless, n.source);
+  return from == "RGB" ? fromRgb(n, source) : toRgb(n, source);
+}
