@@ -75,6 +75,15 @@ int sizeIndex(int elementSize) {
   return elementSize / 2;
 }
 
+// Chroma that two pixels of a row share is worked on as it is, if the matrix allows.
+enum class Chroma { full, fromHalf, toHalf };
+
+Chroma chromaOf(const Function& f, const Matrix& matrix) {
+  if (f.transform.apply != applyFixed) return Chroma::full;
+  if (f.source.half && matrix.fromHalf.isKnown) return Chroma::fromHalf;
+  return f.target.half && matrix.luma.isKnown && matrix.toHalf.isKnown ? Chroma::toHalf : Chroma::full;
+}
+
 // The tiles of one call and what happens to them.
 class Run {
  public:
@@ -86,33 +95,67 @@ class Run {
         load_(f.source.load[sizeIndex(f.sourceSize)]),
         store_(f.target.store[sizeIndex(f.targetSize)]),
         pixels_(kTileBytes / (f.sourceSize > f.targetSize ? f.sourceSize : f.targetSize)),
-        keepsAlpha_(f.source.channels == 4 && f.target.channels == 4) {}
+        keepsAlpha_(f.source.channels == 4 && f.target.channels == 4),
+        chroma_(chromaOf(f, matrix)),
+        groupRows_(chroma_ == Chroma::fromHalf && f.source.groupRows > f.target.groupRows
+                       ? f.source.groupRows
+                       : f.target.groupRows) {}
 
   void setAlpha(const void* alpha) { fillAlpha(out_, alpha, f_.targetSize); }
 
   // Rows from `first` to before `last`, which begin with a group of the target.
   void rows(int first, int last, QoriSize size) {
-    for (int y = first; y < last; y += f_.target.groupRows)
+    for (int y = first; y < last; y += groupRows_)
       for (int x = 0; x < size.width; x += pixels_) {
-        const int right = size.width - x, below = size.height - y;
-        tile({x, y, right < pixels_ ? right : pixels_,
-              below < f_.target.groupRows ? below : f_.target.groupRows, size.height});
+        const int right = size.width - x, below = last - y;
+        tile({x, y, right < pixels_ ? right : pixels_, below < groupRows_ ? below : groupRows_, size.height});
       }
   }
 
  private:
   void tile(const Place& at) {
+    for (int r = 0; r < at.rows; r += f_.target.groupRows) {
+      const int left = at.rows - r, rows = left < f_.target.groupRows ? left : f_.target.groupRows;
+      group({at.x, at.y + r, at.n, rows, at.height});
+    }
+  }
+
+  // Rows that are stored together.
+  void group(const Place& at) {
     for (int r = 0; r < at.rows; ++r) row({at.x, at.y + r, at.n, 1, at.height}, r);
-    store_(target_, at, out_.rows(f_.targetOrder));
+    if (chroma_ != Chroma::toHalf) return store_(target_, at, out_.rows(f_.targetOrder));
+    LineSet lines;
+    for (int c = 0; (lines = f_.target.half->lines(c, at.rows)).count != 0; ++c)
+      chromaOfPairs(rowOf(in_, kOrder_abc, lines.first), lines.count, lines.apart * kRowBytes,
+                    rowOf(out_, kOrder_abc, c), at.n, matrix_.toHalf);
+    f_.target.half->store(target_, at, out_.rows(f_.targetOrder));
   }
 
   void row(const Place& at, int r) {
     const TileRows out = rowOf(out_, kOrder_abc, r);
     if (!f_.transform.apply) return load_(source_, at, rowOf(out_, f_.sourceOrder, r));
+    if (chroma_ == Chroma::fromHalf) return rowFromHalf(at, out);
+    if (chroma_ == Chroma::toHalf) {
+      load_(source_, at, rowOf(in_, f_.sourceOrder, r));
+      return applyLuma(rowOf(in_, kOrder_abc, r), out, at.n, matrix_);
+    }
     load_(source_, at, in_.rows(f_.sourceOrder));
     // First, since a transform of four channels writes alpha anew.
     if (keepsAlpha_) __builtin_memcpy(out.plane[3], in_.bytes[3][0], at.n * f_.targetSize);
     f_.transform.apply(in_.rows(kOrder_abc), out, at.n, matrix_);
+  }
+
+  // Interlaced groups have two chroma lines in turn.
+  void rowFromHalf(const Place& at, const TileRows& out) {
+    const int line = f_.source.half->line(at.y, at.height), k = f_.source.groupRows == 4 ? line & 1 : 0;
+    const TileRows in = in_.rows(f_.sourceOrder), planes = in_.rows(kOrder_abc);
+    if (held_[k].line != line || held_[k].x != at.x) {
+      f_.source.half->loadChroma(source_, at, in);
+      termsOfChroma(planes, at.n, matrix_.fromHalf, terms_[k]);
+      held_[k] = {line, at.x};
+    }
+    f_.source.half->loadLuma(source_, at, in);
+    applyTerms(planes, terms_[k], out, at.n, matrix_.fromHalf);
   }
 
   static TileRows rowOf(Tile& tile, const uint8_t* order, int r) {
@@ -120,6 +163,10 @@ class Run {
     for (uint8_t*& plane : rows.plane) plane += r * kRowBytes;
     return rows;
   }
+
+  struct HeldLine {
+    int line = -1, x = -1;
+  };
 
   const Function& f_;
   const Source& source_;
@@ -129,7 +176,11 @@ class Run {
   const Store store_;
   const int pixels_;       // of a tile
   const bool keepsAlpha_;  // from the source; otherwise it is the caller's, if written at all
+  const Chroma chroma_;
+  const int groupRows_;
   Tile in_, out_;
+  HeldLine held_[2];
+  ChromaTerms terms_[2];
 };
 
 Matrix matrixOf(const Function& f, const Source& source, QoriSize size, const Extras& extras) {

@@ -1,34 +1,10 @@
 // direct.cpp: samples that only move, from plane to plane, without a tile.
 #include "formats.h"
+#include "pairs.h"
 #include "simd.h"
 
 namespace qor {
 namespace {
-
-// n pairs to two rows.
-void splitRow(const uint8_t* pairs, int n, uint8_t* first, uint8_t* second) {
-  int i = 0;
-  for (; i + kVec <= n; i += kVec) {
-    const Vec low = load(pairs + 2 * i), high = load(pairs + 2 * i + kVec);
-    store(first + i, narrow(bitAnd(low, all16(0xFF)), bitAnd(high, all16(0xFF))));
-    store(second + i, narrow(shiftRight16<8>(low), shiftRight16<8>(high)));
-  }
-  for (; i < n; ++i) {
-    first[i] = pairs[2 * i];
-    second[i] = pairs[2 * i + 1];
-  }
-}
-
-void mergeRow(const uint8_t* first, const uint8_t* second, int n, uint8_t* pairs) {
-  constexpr int step = kVec / 2;
-  int i = 0;
-  for (; i + step <= n; i += step)
-    store(pairs + 2 * i, bitOr(widen(first + i), shiftLeft16<8>(widen(second + i))));
-  for (; i < n; ++i) {
-    pairs[2 * i] = first[i];
-    pairs[2 * i + 1] = second[i];
-  }
-}
 
 // Rows without padding are one long row.
 void copyLuma(const Move& m, const Share& rows) {
@@ -54,16 +30,16 @@ void splitPairs420(const Move& m, const Share& rows) {
   copyLuma(m, rows);
   const ChromaPlanes to = chromaPlanes(m.sourceOrder, m.targetOrder);
   for (int y = rows.first / 2; y < (rows.last + 1) / 2; ++y)
-    splitRow(m.source.row(1, y), (m.size.width + 1) / 2, m.target.row(to.first, y),
-             m.target.row(to.second, y));
+    splitPairs(m.source.row(1, y), (m.size.width + 1) / 2, m.target.row(to.first, y),
+               m.target.row(to.second, y));
 }
 
 void mergePairs420(const Move& m, const Share& rows) {
   copyLuma(m, rows);
   const ChromaPlanes from = chromaPlanes(m.targetOrder, m.sourceOrder);
   for (int y = rows.first / 2; y < (rows.last + 1) / 2; ++y)
-    mergeRow(m.source.row(from.first, y), m.source.row(from.second, y), (m.size.width + 1) / 2,
-             m.target.row(1, y));
+    mergePairs(m.source.row(from.first, y), m.source.row(from.second, y), (m.size.width + 1) / 2,
+               m.target.row(1, y));
 }
 
 // Y0 Cb Y1 Cr to three rows. What the vectors leave, an odd last pixel among it, is

@@ -20,17 +20,18 @@ using FloatsInMemory [[gnu::vector_size(kVec), gnu::aligned(1), gnu::may_alias]]
 inline Floats all(float v) {
   return Floats{} + v;
 }
-inline Floats atLeast(Floats v, float low) {
-  return v > low ? v : all(low);
-}
-inline Floats atMost(Floats v, float high) {
-  return v < high ? v : all(high);
-}
+// As the comparisons in ranges.h: of equal values and beside a NaN the second one.
 inline Floats larger(Floats a, Floats b) {
-  return a > b ? a : b;
+  return reinterpret_cast<Floats>(QORCC_V(max_ps)(a, b));
 }
 inline Floats smaller(Floats a, Floats b) {
-  return a < b ? a : b;
+  return reinterpret_cast<Floats>(QORCC_V(min_ps)(a, b));
+}
+inline Floats atLeast(Floats v, float low) {
+  return larger(v, all(low));
+}
+inline Floats atMost(Floats v, float high) {
+  return smaller(v, all(high));
 }
 
 // kFloats elements. g++ 12 takes the compiler's own conversions from bytes and

@@ -12,6 +12,20 @@ using Load = void (*)(const Source&, const Place&, const TileRows& out);
 // Stores place.rows rows, a whole group of the format or what is left of it.
 using Store = void (*)(const Target&, const Place&, const TileRows& in);
 
+// The lines of a group that share a chroma line.
+struct LineSet {
+  int first, apart, count;
+};
+
+// A format in which two pixels of a row share a chroma sample, with the chroma planes
+// of a tile as narrow as the image's: (n + 1) / 2 samples.
+struct HalfChroma {
+  int (*line)(int y, int height);     // the same for rows with the same chroma
+  LineSet (*lines)(int c, int rows);  // of chroma line c of a group; count 0: there is none
+  Load loadLuma, loadChroma;          // to plane a, to planes b and c
+  Store store;                        // chroma line c of the group in row c
+};
+
 struct Format {
   int pointers;   // in the argument: 1 packed, 2 luma and chroma pairs, 3 or 4 planes
   int perPixel;   // elements of one pixel behind the first pointer
@@ -21,6 +35,7 @@ struct Format {
   int channels;   // planes of a tile that it fills or uses
   Load load[3];   // for elements of 1, 2 and 4 bytes; null: no function needs it
   Store store[3];
+  const HalfChroma* half = nullptr;  // null: not such a format
 
   // Bytes of a row behind pointer p that a call reads or writes.
   int64_t rowBytes(int p, int width, int elementSize) const {

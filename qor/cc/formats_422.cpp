@@ -1,5 +1,6 @@
 // formats_422.cpp: two pixels in four bytes, with one Cb and one Cr between them.
 #include "formats.h"
+#include "pairs.h"
 #include "simd.h"
 
 namespace qor {
@@ -67,6 +68,52 @@ void storePairs(const Target& d, const Place& at, const TileRows& in) {
   }
 }
 
+template <int luma>
+void loadBright(const Source& s, const Place& at, const TileRows& out) {
+  const uint8_t* in = s.row(0, at.y) + static_cast<ptrdiff_t>(at.x) * 2;
+  uint8_t rest[2 * kVec];
+  for (int i = 0; i < at.n; i += kVec) {
+    const uint8_t* from = in + 2 * i;
+    if (at.n - i < kVec) from = static_cast<const uint8_t*>(__builtin_memcpy(rest, from, 2 * (at.n - i)));
+    store(out.row(0, 0) + i, narrow(byteOf<luma>(load(from)), byteOf<luma>(load(from + kVec))));
+  }
+}
+
+template <int chroma>
+void loadColour(const Source& s, const Place& at, const TileRows& out) {
+  const uint8_t* in = s.row(0, at.y) + static_cast<ptrdiff_t>(at.x) * 2;
+  uint8_t *cb = out.row(1, 0), *cr = out.row(2, 0), rest[2 * kVec];
+  for (int i = 0; i < at.n; i += kVec) {
+    const uint8_t* from = in + 2 * i;
+    if (at.n - i < kVec) from = static_cast<const uint8_t*>(__builtin_memcpy(rest, from, 2 * (at.n - i)));
+    const Vec pairs = narrow(byteOf<chroma>(load(from)), byteOf<chroma>(load(from + kVec)));
+    store(cb + i / 2, narrow(bitAnd(pairs, all16(0xFF)), zero()));
+    store(cr + i / 2, narrow(shiftRight16<8>(pairs), zero()));
+  }
+  if (at.n % 2 == 0) return;
+  const int last = at.n - 1;
+  cr[last / 2] = at.x + last > 0 ? in[2 * last + chroma - 2] : kNeutral;
+}
+
+template <int luma>
+void storeBoth(const Target& d, const Place& at, const TileRows& in) {
+  uint8_t* out = d.row(0, at.y) + static_cast<ptrdiff_t>(at.x) * 2;
+  const uint8_t *y = in.row(0, 0), *cb = in.row(1, 0), *cr = in.row(2, 0);
+  uint8_t chroma[kRowBytes];
+  mergePairs(cb, cr, (at.n + 1) / 2, chroma);
+  luma == 0 ? mergePairs(y, chroma, at.n, out) : mergePairs(chroma, y, at.n, out);
+}
+
+int ownLine(int y, int) {
+  return y;
+}
+LineSet ownLines(int c, int rows) {
+  return {c, 1, c < rows ? 1 : 0};
+}
+
+template <int luma, int chroma>
+constexpr HalfChroma kHalfPairs = {ownLine, ownLines, loadBright<luma>, loadColour<chroma>, storeBoth<luma>};
+
 template <int luma, int chroma>
 constexpr Format pairs() {
   return {1,
@@ -76,7 +123,8 @@ constexpr Format pairs() {
           1,
           3,
           {loadPairs<luma, chroma>, nullptr, nullptr},
-          {storePairs<luma, chroma>, nullptr, nullptr}};
+          {storePairs<luma, chroma>, nullptr, nullptr},
+          &kHalfPairs<luma, chroma>};
 }
 
 }  // namespace

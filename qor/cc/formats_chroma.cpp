@@ -1,5 +1,6 @@
 // formats_chroma.cpp: luma with chroma of a lower resolution, in planes.
 #include "formats.h"
+#include "pairs.h"
 #include "simd.h"
 
 namespace qor {
@@ -91,11 +92,6 @@ void loadTwo(const Source& s, const Place& at, const TileRows& out) {
   repeat<hshift, 2>(in, at.n, out.row(1, 0));
   repeat<hshift, 2>(in + 1, at.n, out.row(2, 0));
 }
-
-// The lines of a group that share a chroma line.
-struct LineSet {
-  int first, apart, count;
-};
 
 // Mean, rounded half up, of the blocks of 2^hshift pixels in a set of lines.
 template <int hshift, int stride>
@@ -216,6 +212,49 @@ void storeChroma(const Target& d, const Place& at, const TileRows& in) {
   }
 }
 
+// Of a format with half its chroma. Filtered chroma differs from row to row.
+template <Lines lines>
+int sharedLine(int y, int height) {
+  return lines == Lines::filtered ? y : chromaLine(lines, y, height);
+}
+template <Lines lines>
+LineSet sharingLines(int c, int rows) {
+  return linesOf(lines, c, rows);
+}
+
+void loadLuma(const Source& s, const Place& at, const TileRows& out) {
+  __builtin_memcpy(out.row(0, 0), s.row(0, at.y) + at.x, at.n);
+}
+
+template <Lines lines, int stride>
+void loadHalf(const Source& s, const Place& at, const TileRows& out) {
+  const int n = samples(at.n, 1);
+  uint8_t room[2 * kTilePixels];
+  if (stride == 2)
+    return splitPairs(chromaBytes<lines>(s, 1, at, at.x, 2 * n, room), n, out.row(1, 0), out.row(2, 0));
+  for (int p = 1; p < 3; ++p) {
+    const uint8_t* in = chromaBytes<lines>(s, p, at, at.x / 2, n, room);
+    __builtin_memcpy(out.row(p, 0), in, n);
+  }
+}
+
+template <Lines lines, int stride>
+void storeHalf(const Target& d, const Place& at, const TileRows& in) {
+  for (int r = 0; r < at.rows; ++r) __builtin_memcpy(d.row(0, at.y + r) + at.x, in.row(0, r), at.n);
+  const int firstLine = chromaLine(lines, at.y, at.height), n = samples(at.n, 1);
+  for (int c = 0; linesOf(lines, c, at.rows).count != 0; ++c) {
+    if (stride == 2) {
+      mergePairs(in.row(1, c), in.row(2, c), n, d.row(1, firstLine + c) + at.x);
+      continue;
+    }
+    for (int p = 1; p < 3; ++p) __builtin_memcpy(d.row(p, firstLine + c) + at.x / 2, in.row(p, c), n);
+  }
+}
+
+template <Lines lines, int stride>
+constexpr HalfChroma kHalfChroma = {sharedLine<lines>, sharingLines<lines>, loadLuma, loadHalf<lines, stride>,
+                                    storeHalf<lines, stride>};
+
 constexpr int groupRows(Lines lines) {
   if (lines == Lines::same) return 1;
   return lines == Lines::half || lines == Lines::filtered ? 2 : 4;
@@ -230,7 +269,8 @@ constexpr Format threePlanes() {
           groupRows(lines),
           3,
           {loadThree<hshift, lines>, nullptr, nullptr},
-          {storeChroma<hshift, lines, 1>, nullptr, nullptr}};
+          {storeChroma<hshift, lines, 1>, nullptr, nullptr},
+          hshift == 1 ? &kHalfChroma<lines, 1> : nullptr};
 }
 
 template <int hshift, Lines lines>
@@ -242,7 +282,8 @@ constexpr Format twoPlanes() {
           groupRows(lines),
           3,
           {loadTwo<hshift, lines>, nullptr, nullptr},
-          {storeChroma<hshift, lines, 2>, nullptr, nullptr}};
+          {storeChroma<hshift, lines, 2>, nullptr, nullptr},
+          hshift == 1 ? &kHalfChroma<lines, 2> : nullptr};
 }
 
 }  // namespace

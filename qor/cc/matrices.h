@@ -97,6 +97,107 @@ constexpr Fixed fixedPoint(const Linear& a) {
   return r;
 }
 
+// Row 0 in 15 bits, of which the lower seven and the upper eight have products of
+// their own.
+constexpr Luma lumaOf(const Linear& a) {
+  Luma r;
+  double middle = a.offset[0] * 255 + 0.5, most = middle;
+  int low = 0, high = 0;
+  for (int j = 0; j < 3; ++j) {
+    const int factor = toNearest(a.m[0][j] * 32768);
+    if (factor < 0 || factor >= 32768) return {};
+    r.high[j] = static_cast<uint8_t>(factor >> 7);
+    r.low[j] = static_cast<uint8_t>(factor & 127);
+    middle += 128 * a.m[0][j];
+    most += 255 * a.m[0][j];
+    low += r.low[j];
+    high += r.high[j];
+  }
+  r.offset = static_cast<uint16_t>(toNearest(middle * 256));
+  // Sums of bytes less 128 have to be words, and no result may need clamping.
+  r.isKnown = low < 256 && high < 257 && r.high[0] + r.high[1] < 256 && a.offset[0] >= 0 && most < 256;
+  return r;
+}
+
+// Rows 1 and 2 in 15 bits for sums of four samples.
+constexpr ToHalf toHalf(const Linear& a) {
+  ToHalf r;
+  for (int i = 0; i < 2; ++i) {
+    double middle = a.offset[i + 1] * 255 + 0.5, least = middle, most = middle;
+    int ofMiddle = 0;
+    for (int j = 0; j < 3; ++j) {
+      const double factor = a.m[i + 1][j];
+      if (magnitude(factor) >= 0.9999) return {};
+      r.m[i][j] = word(toNearest(factor * 32768));
+      middle += 128 * factor;
+      ofMiddle += r.m[i][j] * 4 * 128;
+      (factor < 0 ? least : most) += 255 * factor;
+    }
+    // A sample beyond the range would have to be held before it goes into the mean.
+    if (least < 0 || most > 256) return {};
+    r.offset[i] = toNearest(middle * (1 << 17)) - ofMiddle;
+  }
+  r.isKnown = true;
+  return r;
+}
+
+// The factors of an input in 16 bits, each as a word times a small number that all
+// share: the number that loses least.
+struct Shared {
+  int times = 0;
+  int16_t of[3] = {};
+  bool isKnown = false;
+};
+constexpr Shared sharedFactor(const double factor[3]) {
+  Shared best;
+  double leastLoss = 1e9;
+  for (int times = 1; times < 128; ++times) {
+    double loss = 0;
+    bool fits = true;
+    Shared s = {times, {}, true};
+    for (int i = 0; i < 3; ++i) {
+      const double wanted = factor[i] * 65536 / times;
+      if (magnitude(wanted) > 32767) {
+        fits = false;
+        break;
+      }
+      s.of[i] = word(toNearest(wanted));
+      loss += magnitude(wanted - s.of[i]) * times;
+    }
+    if (!fits || loss >= leastLoss) continue;
+    best = s;
+    leastLoss = loss;
+  }
+  return best;
+}
+
+constexpr FromHalf fromHalf(const Linear& a) {
+  for (int i = 1; i < 3; ++i)
+    if (magnitude(a.m[i][0] - a.m[0][0]) > 1e-6) return {};
+  Shared of[3];
+  for (int j = 0; j < 3; ++j) {
+    const double column[3] = {a.m[0][j], j == 0 ? 0 : a.m[1][j], j == 0 ? 0 : a.m[2][j]};
+    of[j] = sharedFactor(column);
+    if (!of[j].isKnown) return {};
+  }
+  FromHalf r;
+  r.luma = of[0].of[0];
+  r.timesLuma = word(of[0].times);
+  for (int j = 0; j < 2; ++j) r.timesChroma[j] = word(of[j + 1].times);
+  for (int i = 0; i < 3; ++i) {
+    double middle = a.offset[i] * 255 + 0.5;
+    int ofMiddle = r.luma * r.timesLuma * 128;
+    for (int j = 0; j < 3; ++j) middle += 128 * a.m[i][j];
+    for (int j = 0; j < 2; ++j) {
+      r.chroma[i][j] = of[j + 1].of[i];
+      ofMiddle += r.chroma[i][j] * r.timesChroma[j] * 128;
+    }
+    r.offset[i] = toNearest(middle * 65536) - ofMiddle;
+  }
+  r.isKnown = true;
+  return r;
+}
+
 // For elements that hold 0..1 as low..low + span.
 constexpr Matrix forRange(const Linear& a, double low, double span) {
   Matrix r = {};
@@ -108,7 +209,12 @@ constexpr Matrix forRange(const Linear& a, double low, double span) {
     }
     r.offset[i] = static_cast<float>(offset);
   }
-  if (low == 0 && span == 255) r.fixed = fixedPoint(a);
+  if (low == 0 && span == 255) {
+    r.fixed = fixedPoint(a);
+    r.luma = lumaOf(a);
+    r.toHalf = toHalf(a);
+    r.fromHalf = fromHalf(a);
+  }
   return r;
 }
 

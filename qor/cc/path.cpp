@@ -30,6 +30,7 @@ namespace {
 #include "transforms_cie.cpp"
 #include "transforms_fixed.cpp"
 #include "transforms_gamma.cpp"
+#include "transforms_half.cpp"
 #include "transforms_hue.cpp"
 #include "transforms_linear.cpp"
 #include "transforms_ycocg.cpp"

@@ -36,17 +36,27 @@ inline void store(void* p, Vec v) {
 inline Vec zero() {
   return QORCC_BITS(setzero)();
 }
+inline Vec all8(int v) {
+  return QORCC_V(set1_epi8)(static_cast<char>(v));
+}
 inline Vec all16(int v) {
   return QORCC_V(set1_epi16)(static_cast<short>(v));
 }
 inline Vec all32(int v) {
   return QORCC_V(set1_epi32)(v);
 }
+// A pair of words in each double word.
+inline Vec allPairs(int even, int odd) {
+  return all32(static_cast<int>(static_cast<uint16_t>(even) | static_cast<uint32_t>(odd) << 16));
+}
 inline Vec bitAnd(Vec a, Vec b) {
   return QORCC_BITS(and)(a, b);
 }
 inline Vec bitOr(Vec a, Vec b) {
   return QORCC_BITS(or)(a, b);
+}
+inline Vec bitXor(Vec a, Vec b) {
+  return QORCC_BITS(xor)(a, b);
 }
 inline Vec add16(Vec a, Vec b) {
   return QORCC_V(add_epi16)(a, b);
@@ -64,6 +74,10 @@ inline Vec shiftRight16(Vec v) {
 template <int bits>
 inline Vec shiftLeft16(Vec v) {
   return QORCC_V(slli_epi16)(v, bits);
+}
+template <int bits>
+inline Vec shiftRightSigned16(Vec v) {
+  return QORCC_V(srai_epi16)(v, bits);
 }
 template <int bits>
 inline Vec shiftRight32(Vec v) {
@@ -87,6 +101,30 @@ inline Vec addPairs(Vec sum, Vec a, Vec b) {
   return _mm512_dpwssd_epi32(sum, a, b);
 #else
   return add32(sum, multiplyPairs(a, b));
+#endif
+}
+// The low word of each product.
+inline Vec multiply16(Vec a, Vec b) {
+  return QORCC_V(mullo_epi16)(a, b);
+}
+// a0 b0 + a1 b1, in words, for each pair of unsigned bytes a and signed bytes b. The
+// sums must be words.
+inline Vec multiplyBytes(Vec a, Vec b) {
+#if defined(__SSSE3__)
+  return QORCC_V(maddubs_epi16)(a, b);
+#else
+  const Vec evenB = _mm_srai_epi16(shiftLeft16<8>(b), 8), oddB = _mm_srai_epi16(b, 8);
+  return add16(multiply16(bitAnd(a, all16(0xFF)), evenB), multiply16(shiftRight16<8>(a), oddB));
+#endif
+}
+// The upper words of the double words: those of `even` in even places.
+inline Vec upperWords(Vec even, Vec odd) {
+#if defined(__AVX512VBMI__)
+  return _mm512_mask_blend_epi16(0xAAAAAAAA, shiftRight32<16>(even), odd);
+#elif defined(__SSE4_1__)
+  return QORCC_V(blend_epi16)(shiftRight32<16>(even), odd, 0xAA);
+#else
+  return bitOr(shiftRight32<16>(even), bitAnd(odd, all32(static_cast<int>(0xFFFF0000u))));
 #endif
 }
 inline Vec saturatingAdd8(Vec a, Vec b) {

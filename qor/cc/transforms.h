@@ -16,11 +16,39 @@ struct Fixed {
   int twice = 0;
 };
 
+// The first row for bytes: each product is (high 128 + low) (byte - 128), and the
+// result the upper byte of (sum >> 7) + offset.
+struct Luma {
+  uint8_t high[3] = {}, low[3] = {};
+  uint16_t offset = 0;
+  bool isKnown = false;  // the matrix can be done like this
+};
+
+// The other rows, for sums of four samples a, b, c: (m (a, b, c) + offset) >> 17.
+struct ToHalf {
+  int16_t m[2][3] = {};
+  int32_t offset[2] = {};
+  bool isKnown = false;
+};
+
+// Three channels of luma and chroma that two pixels share; channel i is
+//   luma (timesLuma a) + chroma[i] (timesChroma (b, c)) + offset[i] >> 16.
+struct FromHalf {
+  int16_t luma = 0, timesLuma = 0;
+  int16_t chroma[3][2] = {}, timesChroma[2] = {};
+  int32_t offset[3] = {};
+  bool isKnown = false;
+};
+
 struct Matrix {
   float m[3][3];
   float offset[3];
   float fourth[4] = {};  // applyTwist4's last row
-  Fixed fixed = {};      // if made for bytes
+  // If made for bytes.
+  Fixed fixed = {};
+  Luma luma = {};
+  ToHalf toHalf = {};
+  FromHalf fromHalf = {};
 };
 
 // One row of n pixels from the planes `in` to the planes `out`, both of a tile.
@@ -40,8 +68,23 @@ struct Transform {
 // transforms_linear.cpp
 template <class T>
 void applyMatrix(const TileRows& in, const TileRows& out, int n, const Matrix&);
-void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix&);      // bytes
-void applyFixedGray(const TileRows& in, const TileRows& out, int n, const Matrix&);  // row 0 only
+void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix&);  // bytes
+void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix&);   // bytes, row 0 only
+
+// transforms_half.cpp: what a chroma line adds to the channels of the pixels above it,
+// by which all its rows are made.
+struct ChromaTerms {
+  alignas(64) int32_t of[3][kTilePixels / 2 + 16];
+};
+// Chroma samples for n pixels, one for two, in the planes b and c.
+void termsOfChroma(const TileRows& in, int n, const FromHalf&, ChromaTerms&);
+// n pixels of the luma in plane a.
+void applyTerms(const TileRows& in, const ChromaTerms&, const TileRows& out, int n, const FromHalf&);
+// Chroma of n pixels in one or two rows of a tile, `apart` bytes from each other, to
+// (n + 1) / 2 samples in the planes b and c. The pixel behind an odd last one is
+// overwritten.
+void chromaOfPairs(const TileRows& in, int rows, int apart, const TileRows& out, int n, const ToHalf&);
+
 template <class T>
 void applyGray(const TileRows& in, const TileRows& out, int n, const Matrix&);  // row 0 only
 void applyGammaMatrix(const TileRows& in, const TileRows& out, int n, const Matrix&);

@@ -23,12 +23,7 @@ struct Row {
   Vec ab, cd, offset;
 
   Row(const Fixed& f, int i)
-      : ab(pair(f.m[i][0], f.m[i][1])), cd(pair(f.m[i][2], f.m[i][3])), offset(all32(f.offset[i])) {}
-
-  static Vec pair(int16_t low, int16_t high) {
-    return all32(static_cast<int>(static_cast<uint16_t>(low) |
-                                  static_cast<uint32_t>(static_cast<uint16_t>(high)) << 16));
-  }
+      : ab(allPairs(f.m[i][0], f.m[i][1])), cd(allPairs(f.m[i][2], f.m[i][3])), offset(all32(f.offset[i])) {}
 
   template <int shift>
   Vec dot(Vec abWords, Vec cdWords) const {
@@ -43,7 +38,7 @@ struct Row {
 };
 
 // Tile rows have room for a whole vector behind their last pixel.
-template <int shift, int rows, int twice>
+template <int shift, int twice>
 void multiplyFixed(const TileRows& in, const TileRows& out, int n, const Fixed& f) {
   const uint8_t *pa = in.plane[0], *pb = in.plane[1], *pc = in.plane[2];
   const Row row0(f, 0), row1(f, 1), row2(f, 2);
@@ -56,7 +51,6 @@ void multiplyFixed(const TileRows& in, const TileRows& out, int n, const Fixed& 
                     row.words<shift>(a.high, b.high, c.high, d.high));
     };
     store(to0 + i, bytes(row0));
-    if (rows == 1) continue;
     store(to1 + i, bytes(row1));
     store(to2 + i, bytes(row2));
   }
@@ -66,13 +60,31 @@ void multiplyFixed(const TileRows& in, const TileRows& out, int n, const Fixed& 
 
 void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
   const Fixed& f = matrix.fixed;
-  if (f.shift == 15) return multiplyFixed<15, 3, 2>(in, out, n, f);  // no factor needs two shares
-  if (f.twice == 0) return multiplyFixed<14, 3, 0>(in, out, n, f);
-  f.twice == 1 ? multiplyFixed<14, 3, 1>(in, out, n, f) : multiplyFixed<14, 3, 2>(in, out, n, f);
+  if (f.shift == 15) return multiplyFixed<15, 2>(in, out, n, f);  // no factor needs two shares
+  if (f.twice == 0) return multiplyFixed<14, 0>(in, out, n, f);
+  f.twice == 1 ? multiplyFixed<14, 1>(in, out, n, f) : multiplyFixed<14, 2>(in, out, n, f);
 }
 
-void applyFixedGray(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
-  multiplyFixed<15, 1, 2>(in, out, n, matrix.fixed);
+void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
+  const Luma& f = matrix.luma;
+  const uint8_t *pa = in.plane[0], *pb = in.plane[1], *pc = in.plane[2];
+  uint8_t* to = out.plane[0];
+  const auto bytePairs = [](const uint8_t* of, int first, int second) {
+    return all16(of[first] | (second < 0 ? 0 : of[second]) << 8);
+  };
+  const Vec highAB = bytePairs(f.high, 0, 1), highC = bytePairs(f.high, 2, -1),
+            lowAB = bytePairs(f.low, 0, 1), lowC = bytePairs(f.low, 2, -1), offset = all16(f.offset),
+            middle = all8(128);
+  const auto words = [&](Vec ab, Vec cb) {
+    const Vec high = add16(multiplyBytes(highAB, ab), multiplyBytes(highC, cb));
+    const Vec low = add16(multiplyBytes(lowAB, ab), multiplyBytes(lowC, cb));
+    return shiftRight16<8>(add16(add16(high, offset), shiftRightSigned16<7>(low)));
+  };
+  for (int i = 0; i < n; i += kVec) {
+    const Vec a = bitXor(load(pa + i), middle), b = bitXor(load(pb + i), middle),
+              c = bitXor(load(pc + i), middle);
+    store(to + i, pack16(words(low8(a, b), low8(c, b)), words(high8(a, b), high8(c, b))));
+  }
 }
 
 }  // namespace qor
