@@ -145,17 +145,33 @@ class Run {
     f_.transform.apply(in_.rows(kOrder_abc), out, at.n, matrix_);
   }
 
-  // Interlaced groups have two chroma lines in turn.
   void rowFromHalf(const Place& at, const TileRows& out) {
-    const int line = f_.source.half->line(at.y, at.height), k = f_.source.groupRows == 4 ? line & 1 : 0;
-    const TileRows in = in_.rows(f_.sourceOrder), planes = in_.rows(kOrder_abc);
+    if (f_.source.half->isPacked) return rowFromPacked(at, out);
+    const int line = f_.source.half->line(at.y, at.height);
+    // Interlaced groups have two chroma lines in turn.
+    const int k = f_.source.groupRows == 4 ? line & 1 : 0;
     if (held_[k].line != line || held_[k].x != at.x) {
-      f_.source.half->loadChroma(source_, at, in);
-      termsOfChroma(planes, at.n, matrix_.fromHalf, terms_[k]);
+      const bool inPairs = f_.source.half->elements == 2;
+      f_.source.half->load(source_, at, in_.rows(inPairs ? kOrder_abc : f_.sourceOrder));
+      termsOfChroma(in_.rows(kOrder_abc), inPairs ? pairOrder() : ChromaOrder::planes, at.n, matrix_.fromHalf,
+                    terms_[k]);
       held_[k] = {line, at.x};
     }
-    f_.source.half->loadLuma(source_, at, in);
-    applyTerms(planes, terms_[k], out, at.n, matrix_.fromHalf);
+    applyTerms(source_.row(0, at.y) + at.x, terms_[k], out, at.n, matrix_.fromHalf);
+  }
+
+  void rowFromPacked(const Place& at, const TileRows& out) {
+    const uint8_t* in = source_.row(0, at.y) + ptrdiff_t{2} * at.x;
+    const int lumaAt = f_.source.half->lumaAt, second = 2 * at.n - 3 - lumaAt;
+    // Behind an odd last pixel the other half of its pair lies beyond the row: that of
+    // the pair before.
+    const uint8_t lastChroma = at.x + at.n > 1 ? in[second] : kNeutralChroma;
+    applyPacked(in, lumaAt, pairOrder() == ChromaOrder::swappedPairs, lastChroma, out, at.n,
+                matrix_.fromHalf);
+  }
+
+  ChromaOrder pairOrder() const {
+    return f_.sourceOrder[1] == 1 ? ChromaOrder::pairs : ChromaOrder::swappedPairs;
   }
 
   static TileRows rowOf(Tile& tile, const uint8_t* order, int r) {

@@ -17,13 +17,19 @@ struct LineSet {
   int first, apart, count;
 };
 
-// A format in which two pixels of a row share a chroma sample, with the chroma planes
-// of a tile as narrow as the image's: (n + 1) / 2 samples.
+// For the second sample of a row of one packed pixel, which doesn't hold it.
+constexpr uint8_t kNeutralChroma = 128;
+
+// A format in which two pixels of a row share a chroma sample, worked on without
+// spreading it: (n + 1) / 2 samples for n pixels.
 struct HalfChroma {
+  bool isPacked;                      // luma and chroma bytes in turn
+  int lumaAt;                         // 0, or 1 if it comes second there
+  int elements;                       // bytes of a sample together: 2, or 1 in planes
   int (*line)(int y, int height);     // the same for rows with the same chroma
   LineSet (*lines)(int c, int rows);  // of chroma line c of a group; count 0: there is none
-  Load loadLuma, loadChroma;          // to plane a, to planes b and c
-  Store store;                        // chroma line c of the group in row c
+  Load load;                          // chroma as it lies to planes b and c, or pairs to b; null if packed
+  Store store;                        // chroma line c of the group from row c of planes b and c
 };
 
 struct Format {

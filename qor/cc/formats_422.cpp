@@ -6,8 +6,6 @@
 namespace qor {
 namespace {
 
-constexpr uint8_t kNeutral = 128;
-
 // The even and the odd words of a vector, each twice.
 inline Vec twiceEven(Vec v) {
   return bitOr(bitAnd(v, all32(0xFFFF)), shiftLeft32<16>(v));
@@ -40,7 +38,7 @@ void loadPairs(const Source& s, const Place& at, const TileRows& out) {
   if (at.n % 2 == 0) return;
   const int last = at.n - 1;
   // The pair's other half lies beyond the row: take that of the pair before.
-  cr[last] = at.x + last > 0 ? in[2 * last + chroma - 2] : kNeutral;
+  cr[last] = at.x + last > 0 ? in[2 * last + chroma - 2] : kNeutralChroma;
 }
 
 // The rounded mean of each pair of kVec / 2 bytes, in double words.
@@ -69,33 +67,6 @@ void storePairs(const Target& d, const Place& at, const TileRows& in) {
 }
 
 template <int luma>
-void loadBright(const Source& s, const Place& at, const TileRows& out) {
-  const uint8_t* in = s.row(0, at.y) + static_cast<ptrdiff_t>(at.x) * 2;
-  uint8_t rest[2 * kVec];
-  for (int i = 0; i < at.n; i += kVec) {
-    const uint8_t* from = in + 2 * i;
-    if (at.n - i < kVec) from = static_cast<const uint8_t*>(__builtin_memcpy(rest, from, 2 * (at.n - i)));
-    store(out.row(0, 0) + i, narrow(byteOf<luma>(load(from)), byteOf<luma>(load(from + kVec))));
-  }
-}
-
-template <int chroma>
-void loadColour(const Source& s, const Place& at, const TileRows& out) {
-  const uint8_t* in = s.row(0, at.y) + static_cast<ptrdiff_t>(at.x) * 2;
-  uint8_t *cb = out.row(1, 0), *cr = out.row(2, 0), rest[2 * kVec];
-  for (int i = 0; i < at.n; i += kVec) {
-    const uint8_t* from = in + 2 * i;
-    if (at.n - i < kVec) from = static_cast<const uint8_t*>(__builtin_memcpy(rest, from, 2 * (at.n - i)));
-    const Vec pairs = narrow(byteOf<chroma>(load(from)), byteOf<chroma>(load(from + kVec)));
-    store(cb + i / 2, narrow(bitAnd(pairs, all16(0xFF)), zero()));
-    store(cr + i / 2, narrow(shiftRight16<8>(pairs), zero()));
-  }
-  if (at.n % 2 == 0) return;
-  const int last = at.n - 1;
-  cr[last / 2] = at.x + last > 0 ? in[2 * last + chroma - 2] : kNeutral;
-}
-
-template <int luma>
 void storeBoth(const Target& d, const Place& at, const TileRows& in) {
   uint8_t* out = d.row(0, at.y) + static_cast<ptrdiff_t>(at.x) * 2;
   const uint8_t *y = in.row(0, 0), *cb = in.row(1, 0), *cr = in.row(2, 0);
@@ -111,8 +82,8 @@ LineSet ownLines(int c, int rows) {
   return {c, 1, c < rows ? 1 : 0};
 }
 
-template <int luma, int chroma>
-constexpr HalfChroma kHalfPairs = {ownLine, ownLines, loadBright<luma>, loadColour<chroma>, storeBoth<luma>};
+template <int luma>
+constexpr HalfChroma kHalfPairs = {true, luma, 2, ownLine, ownLines, nullptr, storeBoth<luma>};
 
 template <int luma, int chroma>
 constexpr Format pairs() {
@@ -124,7 +95,7 @@ constexpr Format pairs() {
           3,
           {loadPairs<luma, chroma>, nullptr, nullptr},
           {storePairs<luma, chroma>, nullptr, nullptr},
-          &kHalfPairs<luma, chroma>};
+          &kHalfPairs<luma>};
 }
 
 }  // namespace

@@ -222,19 +222,13 @@ LineSet sharingLines(int c, int rows) {
   return linesOf(lines, c, rows);
 }
 
-void loadLuma(const Source& s, const Place& at, const TileRows& out) {
-  __builtin_memcpy(out.row(0, 0), s.row(0, at.y) + at.x, at.n);
-}
-
 template <Lines lines, int stride>
 void loadHalf(const Source& s, const Place& at, const TileRows& out) {
-  const int n = samples(at.n, 1);
+  const int bytes = samples(at.n, 1) * stride;
   uint8_t room[2 * kTilePixels];
-  if (stride == 2)
-    return splitPairs(chromaBytes<lines>(s, 1, at, at.x, 2 * n, room), n, out.row(1, 0), out.row(2, 0));
-  for (int p = 1; p < 3; ++p) {
-    const uint8_t* in = chromaBytes<lines>(s, p, at, at.x / 2, n, room);
-    __builtin_memcpy(out.row(p, 0), in, n);
+  for (int p = 1; p < (stride == 2 ? 2 : 3); ++p) {
+    const uint8_t* in = chromaBytes<lines>(s, p, at, at.x / 2 * stride, bytes, room);
+    __builtin_memcpy(out.row(p, 0), in, bytes);
   }
 }
 
@@ -252,7 +246,12 @@ void storeHalf(const Target& d, const Place& at, const TileRows& in) {
 }
 
 template <Lines lines, int stride>
-constexpr HalfChroma kHalfChroma = {sharedLine<lines>, sharingLines<lines>, loadLuma, loadHalf<lines, stride>,
+constexpr HalfChroma kHalfChroma = {false,
+                                    0,
+                                    stride,
+                                    sharedLine<lines>,
+                                    sharingLines<lines>,
+                                    loadHalf<lines, stride>,
                                     storeHalf<lines, stride>};
 
 constexpr int groupRows(Lines lines) {

@@ -36,9 +36,7 @@ void storeBytes(uint8_t* out, int n, uint8_t* const* plane) {
     if constexpr (stride == 3) {
       store3(to, {load(plane[0] + i), load(plane[1] + i), load(plane[2] + i)});
     } else {
-      for (int k = 0; k < kVec; k += kVec / 2)
-        storeZipped16(to + 4 * k, bitOr(widen(plane[0] + i + k), shiftLeft16<8>(widen(plane[1] + i + k))),
-                      bitOr(widen(plane[2] + i + k), shiftLeft16<8>(widen(plane[3] + i + k))));
+      store4(to, {load(plane[0] + i), load(plane[1] + i), load(plane[2] + i), load(plane[3] + i)});
     }
     if (to == rest) __builtin_memcpy(whole, rest, stride * (n - i));
   }

@@ -207,12 +207,59 @@ inline void storeZipped16(void* to, Vec a, Vec b) {
 #endif
 }
 
+// Of two vectors' lanes the even and the odd ones.
+struct Halves {
+  Vec first, second;
+};
+inline Halves loadAlternateLanes(const uint8_t* p) {
+  const Vec a = load(p), b = load(p + kVec);
+#if defined(__AVX512VBMI__)
+  const Vec even = _mm512_setr_epi64(0, 1, 4, 5, 8, 9, 12, 13),
+            odd = _mm512_setr_epi64(2, 3, 6, 7, 10, 11, 14, 15);
+  return {_mm512_permutex2var_epi64(a, even, b), _mm512_permutex2var_epi64(a, odd, b)};
+#elif defined(__AVX2__)
+  return {_mm256_permute2x128_si256(a, b, 0x20), _mm256_permute2x128_si256(a, b, 0x31)};
+#else
+  return {a, b};
+#endif
+}
+// Four vectors whose lanes j together are the 64 bytes at p + 64 j.
+inline void storeLanesInTurn(uint8_t* p, Vec a, Vec b, Vec c, Vec d) {
+#if defined(__AVX512VBMI__)
+  const Vec even = _mm512_setr_epi64(0, 1, 8, 9, 4, 5, 12, 13),
+            odd = _mm512_setr_epi64(2, 3, 10, 11, 6, 7, 14, 15);
+  const Vec ab02 = _mm512_permutex2var_epi64(a, even, b), ab13 = _mm512_permutex2var_epi64(a, odd, b),
+            cd02 = _mm512_permutex2var_epi64(c, even, d), cd13 = _mm512_permutex2var_epi64(c, odd, d);
+  store(p, _mm512_shuffle_i64x2(ab02, cd02, 0x44));
+  store(p + 64, _mm512_shuffle_i64x2(ab13, cd13, 0x44));
+  store(p + 128, _mm512_shuffle_i64x2(ab02, cd02, 0xEE));
+  store(p + 192, _mm512_shuffle_i64x2(ab13, cd13, 0xEE));
+#elif defined(__AVX2__)
+  store(p, _mm256_permute2x128_si256(a, b, 0x20));
+  store(p + 32, _mm256_permute2x128_si256(c, d, 0x20));
+  store(p + 64, _mm256_permute2x128_si256(a, b, 0x31));
+  store(p + 96, _mm256_permute2x128_si256(c, d, 0x31));
+#else
+  store(p, a);
+  store(p + 16, b);
+  store(p + 32, c);
+  store(p + 48, d);
+#endif
+}
+
 struct Vec3 {
   Vec a, b, c;
 };
 struct Vec4 {
   Vec a, b, c, d;
 };
+
+inline void store4(uint8_t* p, const Vec4& v) {
+  const Vec lowAB = low8(v.a, v.b), highAB = high8(v.a, v.b), lowCD = low8(v.c, v.d),
+            highCD = high8(v.c, v.d);
+  storeLanesInTurn(p, low16(lowAB, lowCD), high16(lowAB, lowCD), low16(highAB, highCD),
+                   high16(highAB, highCD));
+}
 
 // kVec pixels of four bytes.
 inline Vec4 load4(const uint8_t* p) {

@@ -76,10 +76,16 @@ void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix&);  
 struct ChromaTerms {
   alignas(64) int32_t of[3][kTilePixels / 2 + 16];
 };
-// Chroma samples for n pixels, one for two, in the planes b and c.
-void termsOfChroma(const TileRows& in, int n, const FromHalf&, ChromaTerms&);
-// n pixels of the luma in plane a.
-void applyTerms(const TileRows& in, const ChromaTerms&, const TileRows& out, int n, const FromHalf&);
+// Chroma samples for n pixels, one for two: in the planes b and c, or as pairs in plane
+// b whose first bytes are b's, or c's.
+enum class ChromaOrder { planes, pairs, swappedPairs };
+void termsOfChroma(const TileRows& in, ChromaOrder, int n, const FromHalf&, ChromaTerms&);
+// n pixels of the given luma, of which no byte more is read.
+void applyTerms(const uint8_t* luma, const ChromaTerms&, const TileRows& out, int n, const FromHalf&);
+// n pixels of packed 4:2:2: luma at every second byte from `lumaAt`. An odd last pixel
+// has the second chroma byte that is given.
+void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma, const TileRows& out, int n,
+                 const FromHalf&);
 // Chroma of n pixels in one or two rows of a tile, `apart` bytes from each other, to
 // (n + 1) / 2 samples in the planes b and c. The pixel behind an odd last one is
 // overwritten.

@@ -7,40 +7,116 @@
 
 namespace qor {
 
-void termsOfChroma(const TileRows& in, int n, const FromHalf& f, ChromaTerms& terms) {
-  constexpr int step = kVec / 2, lane = kVec / 4;
-  const uint8_t *b = in.plane[1], *c = in.plane[2];
-  const Vec timesB = all16(f.timesChroma[0]), timesC = all16(f.timesChroma[1]);
-  Vec factors[3], offsets[3];
-  for (int i = 0; i < 3; ++i) {
-    factors[i] = allPairs(f.chroma[i][0], f.chroma[i][1]);
-    offsets[i] = all32(f.offset[i]);
-  }
-  for (int k = 0; k < (n + 1) / 2; k += step) {
-    const Vec wordsB = multiply16(widen(b + k), timesB), wordsC = multiply16(widen(c + k), timesC);
-    const Vec low = low16(wordsB, wordsC), high = high16(wordsB, wordsC);
+namespace {
+
+// The halves of a block of kVec pixels are, in each lane, its first and its last eight
+// pixels, and the four chroma samples of each.
+struct ChromaFactors {
+  Vec factors[3], offsets[3], times;
+
+  ChromaFactors(const FromHalf& f, bool swapped)
+      : times(allPairs(f.timesChroma[swapped], f.timesChroma[!swapped])) {
     for (int i = 0; i < 3; ++i) {
-      store(terms.of[i] + k, addPairs(offsets[i], low, factors[i]));
-      store(terms.of[i] + k + lane, addPairs(offsets[i], high, factors[i]));
+      factors[i] = allPairs(f.chroma[i][swapped], f.chroma[i][!swapped]);
+      offsets[i] = all32(f.offset[i]);
+    }
+  }
+
+  // Of pairs of words.
+  Vec term(int i, Vec pairs) const { return addPairs(offsets[i], pairs, factors[i]); }
+};
+
+// Luma of even and odd pixels.
+struct LumaTerms {
+  Vec firstEven, firstOdd, secondEven, secondOdd;
+
+  // Bytes of channel: natural order.
+  Vec bytes(const Halves& chroma) const {
+    return pack16(upperWords(add32(firstEven, chroma.first), add32(firstOdd, chroma.first)),
+                  upperWords(add32(secondEven, chroma.second), add32(secondOdd, chroma.second)));
+  }
+};
+
+struct LumaFactors {
+  Vec times, ofEven, ofOdd;
+
+  explicit LumaFactors(const FromHalf& f)
+      : times(all16(f.timesLuma)), ofEven(allPairs(f.luma, 0)), ofOdd(allPairs(0, f.luma)) {}
+
+  LumaTerms terms(const Halves& words) const {
+    const Vec first = multiply16(words.first, times), second = multiply16(words.second, times);
+    return {multiplyPairs(first, ofEven), multiplyPairs(first, ofOdd), multiplyPairs(second, ofEven),
+            multiplyPairs(second, ofOdd)};
+  }
+};
+
+inline Halves halves(Vec bytes) {
+  return {low8(bytes, zero()), high8(bytes, zero())};
+}
+
+}  // namespace
+
+void termsOfChroma(const TileRows& in, ChromaOrder order, int n, const FromHalf& f, ChromaTerms& terms) {
+  const uint8_t *b = in.plane[1], *c = in.plane[2];
+  const ChromaFactors factors(f, order == ChromaOrder::swappedPairs);
+  for (int k = 0; k < (n + 1) / 2; k += kVec / 2) {
+    Halves pairs;
+    if (order == ChromaOrder::planes) {
+      const Vec wordsB = widen(b + k), wordsC = widen(c + k);
+      pairs = {low16(wordsB, wordsC), high16(wordsB, wordsC)};
+    } else {
+      pairs = halves(load(b + 2 * k));
+    }
+    pairs = {multiply16(pairs.first, factors.times), multiply16(pairs.second, factors.times)};
+    for (int i = 0; i < 3; ++i) {
+      store(terms.of[i] + k, factors.term(i, pairs.first));
+      store(terms.of[i] + k + kVec / 4, factors.term(i, pairs.second));
     }
   }
 }
 
-void applyTerms(const TileRows& in, const ChromaTerms& terms, const TileRows& out, int n, const FromHalf& f) {
-  constexpr int lane = kVec / 4;
-  const uint8_t* a = in.plane[0];
-  uint8_t* const to[3] = {out.plane[0], out.plane[1], out.plane[2]};
-  const Vec times = all16(f.timesLuma), ofEven = allPairs(f.luma, 0), ofOdd = allPairs(0, f.luma);
+void applyTerms(const uint8_t* luma, const ChromaTerms& terms, const TileRows& out, int n,
+                const FromHalf& f) {
+  uint8_t *to0 = out.plane[0], *to1 = out.plane[1], *to2 = out.plane[2];
+  const LumaFactors factors(f);
+  uint8_t rest[kVec];
   for (int i = 0; i < n; i += kVec) {
-    const Vec bytes = load(a + i);
-    const Vec low = multiply16(low8(bytes, zero()), times), high = multiply16(high8(bytes, zero()), times);
-    const Vec lowEven = multiplyPairs(low, ofEven), lowOdd = multiplyPairs(low, ofOdd),
-              highEven = multiplyPairs(high, ofEven), highOdd = multiplyPairs(high, ofOdd);
-    for (int c = 0; c < 3; ++c) {
-      const Vec first = load(terms.of[c] + i / 2), second = load(terms.of[c] + i / 2 + lane);
-      store(to[c] + i, pack16(upperWords(add32(lowEven, first), add32(lowOdd, first)),
-                              upperWords(add32(highEven, second), add32(highOdd, second))));
+    const uint8_t* from = luma + i;
+    if (n - i < kVec) from = static_cast<const uint8_t*>(__builtin_memcpy(rest, from, n - i));
+    const LumaTerms bright = factors.terms(halves(load(from)));
+    const auto chroma = [&](int c) {
+      return Halves{load(terms.of[c] + i / 2), load(terms.of[c] + i / 2 + kVec / 4)};
+    };
+    store(to0 + i, bright.bytes(chroma(0)));
+    store(to1 + i, bright.bytes(chroma(1)));
+    store(to2 + i, bright.bytes(chroma(2)));
+  }
+}
+
+void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma, const TileRows& out, int n,
+                 const FromHalf& f) {
+  uint8_t *to0 = out.plane[0], *to1 = out.plane[1], *to2 = out.plane[2];
+  const ChromaFactors colour(f, swapped);
+  const LumaFactors brightness(f);
+  uint8_t rest[2 * kVec];
+  for (int i = 0; i < n; i += kVec) {
+    const uint8_t* from = in + 2 * i;
+    if (n - i < kVec) {
+      from = static_cast<const uint8_t*>(__builtin_memcpy(rest, from, 2 * (n - i)));
+      rest[2 * (n - i) + 1 - lumaAt] = lastChroma;
     }
+    const Halves both = loadAlternateLanes(from);
+    const auto words = [](Vec v, bool upper) { return upper ? shiftRight16<8>(v) : bitAnd(v, all16(0xFF)); };
+    const LumaTerms bright =
+        brightness.terms({words(both.first, lumaAt == 1), words(both.second, lumaAt == 1)});
+    const Halves pairs = {multiply16(words(both.first, lumaAt == 0), colour.times),
+                          multiply16(words(both.second, lumaAt == 0), colour.times)};
+    const auto chroma = [&](int c) {
+      return Halves{colour.term(c, pairs.first), colour.term(c, pairs.second)};
+    };
+    store(to0 + i, bright.bytes(chroma(0)));
+    store(to1 + i, bright.bytes(chroma(1)));
+    store(to2 + i, bright.bytes(chroma(2)));
   }
 }
 
