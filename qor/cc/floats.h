@@ -112,6 +112,18 @@ inline void storeElements(T* p, Floats v) {
   }
 }
 
+// The same for bytes of four vectors that are at least -0.5 and, but for what
+// saturates, below 2^31.
+inline void storeFour(Qor8u* p, const Floats (&v)[4]) {
+  Vec whole[4];
+  for (int i = 0; i < 4; ++i) whole[i] = reinterpret_cast<Vec>(__builtin_convertvector(v[i] + 0.5f, Ints));
+  store(p, narrow(whole[0], whole[1], whole[2], whole[3]));
+}
+
+inline Floats magnitude(Floats v) {
+  return reinterpret_cast<Floats>(reinterpret_cast<Ints>(v) & 0x7fffffff);
+}
+
 }  // namespace qor
 
 #endif

@@ -8,45 +8,63 @@
 namespace qor {
 namespace {
 
-struct Extremes {
-  Floats most, least, spread;
-};
-
-inline Extremes extremes(Floats r, Floats g, Floats b) {
-  const Floats most = larger(r, larger(g, b)), least = smaller(r, smaller(g, b));
-  return {most, least, most - least};
-}
-
-// A turn being `turn`; gray has hue 0. For integers all is exact up to the one
-// division, so that halves are rounded alike everywhere.
-inline Floats hue(Floats r, Floats g, Floats b, const Extremes& e, float turn) {
-  const Floats fromGreen = g == e.most ? 2 * e.spread + (b - r) : 4 * e.spread + (r - g);
-  const Floats angle = r == e.most ? g - b : fromGreen;
-  const Floats sixth = e.spread > 0 ? e.spread : all(1);
-  return (angle < 0 ? angle + 6 * e.spread : angle) * turn / (6 * sixth);
-}
-
-// A trapezoid over a turn of 6: up in 0..1, 1 in 1..3, down in 3..4, then 0.
-inline Floats ramp(Floats sixths) {
-  const Floats turned = sixths + (sixths < 0 ? all(6) : all(0)) - (sixths >= 6 ? all(6) : all(0));
-  return atLeast(atMost(smaller(turned, 4 - turned), 1), 0);
-}
+// In place of a divisor of 0, whose dividend is 0 as well.
+constexpr float kTiny = 1e-30f;
 
 struct Channels {
   Floats a, b, c;
 };
 
-// `pixel` makes three channels of three. Tile rows have room for a whole vector
-// behind their last pixel.
+struct Hue {
+  Floats most, least, spread, turns;  // turns: the hue in 0..turn
+};
+
+// The channels are put in order, by which the hue is the sector's beginning plus or
+// minus a sixth's part. Gray has hue 0. For integers all is exact up to the one
+// division, so that halves are rounded alike everywhere.
+inline Hue hueOf(Floats r, Floats g, Floats b, float turn) {
+  const Floats high = larger(g, b), low = smaller(g, b);
+  const Floats most = larger(r, high), middle = smaller(r, high), least = smaller(middle, low);
+  const Floats spread = most - least;
+  // Sectors of 6, from red; the sign tells whether the hue runs backwards in it.
+  const Floats behindBlue = g < b ? all(-6) : all(0);
+  const Floats sector = r < high ? -2 - behindBlue : behindBlue;
+  const Floats angle = magnitude(sector * spread + (middle - low));
+  return {most, least, spread, angle * turn / larger(6 * spread, all(kTiny))};
+}
+
+// A trapezoid over a turn of 6 with its top about red: 1 - 2 - 1 sixths wide.
+inline Floats redOf(Floats sixths) {
+  return atLeast(atMost(magnitude(sixths - 3) - 1, 1), 0);
+}
+// The same about green, at 2, and about blue, at 4.
+inline Floats peak(Floats sixths, float at) {
+  return atLeast(atMost(2 - magnitude(sixths - at), 1), 0);
+}
+
+// `pixel` makes three channels of three. Tile rows have room for whole vectors behind
+// their last pixel.
 template <class T, class Pixel>
 void eachPixel(const TileRows& in, const TileRows& out, int n, Pixel pixel) {
   const Planes<const T> from(in);
   const Planes<T> into(out);
-  for (int i = 0; i < n; i += kFloats) {
-    const Channels to = pixel(loadFloats(from.a + i), loadFloats(from.b + i), loadFloats(from.c + i));
-    storeElements(into.a + i, to.a);
-    storeElements(into.b + i, to.b);
-    storeElements(into.c + i, to.c);
+  constexpr int vectors = sizeof(T) == 1 ? 4 : 1;
+  for (int i = 0; i < n; i += vectors * kFloats) {
+    Floats a[vectors], b[vectors], c[vectors];
+    for (int k = 0; k < vectors; ++k) {
+      const int at = i + k * kFloats;
+      const Channels to = pixel(loadFloats(from.a + at), loadFloats(from.b + at), loadFloats(from.c + at));
+      a[k] = to.a, b[k] = to.b, c[k] = to.c;
+    }
+    if constexpr (sizeof(T) == 1) {
+      storeFour(into.a + i, a);
+      storeFour(into.b + i, b);
+      storeFour(into.c + i, c);
+    } else {
+      storeElements(into.a + i, a[0]);
+      storeElements(into.b + i, b[0]);
+      storeElements(into.c + i, c[0]);
+    }
   }
 }
 
@@ -61,19 +79,16 @@ void eachPixelInSteps(const TileRows& in, const TileRows& out, int n, Pixel pixe
   });
 }
 
-template <class T, class Pixel>
-void eachPixelInFractions(const TileRows& in, const TileRows& out, int n, Pixel pixel) {
-  constexpr float low = Range<T>::low, span = Range<T>::span;
-  eachPixel<T>(in, out, n, [&](Floats h, Floats x, Floats y) {
-    const Channels c = pixel((h - low) * (1 / span), (x - low) * (1 / span), (y - low) * (1 / span));
-    return Channels{c.a * span + low, c.b * span + low, c.c * span + low};
-  });
+// Hue in steps to sixths of a turn. Floats may lie a turn outside.
+template <class T>
+Floats sixthsOf(Floats hue) {
+  const Floats sixths = hue * (6 / Range<T>::span);
+  if constexpr (Range<T>::span != 1) return sixths;
+  return sixths + (sixths < 0 ? all(6) : all(0)) - (sixths >= 6 ? all(6) : all(0));
 }
 
-inline Channels rgbOf(Floats least, Floats spread, Floats hue) {
-  const Floats sixths = 6 * hue;
-  return {least + spread * ramp(sixths + 2), least + spread * ramp(sixths),
-          least + spread * ramp(sixths - 2)};
+inline Channels rgbOf(Floats least, Floats spread, Floats sixths) {
+  return {least + spread * redOf(sixths), least + spread * peak(sixths, 2), least + spread * peak(sixths, 4)};
 }
 
 }  // namespace
@@ -82,17 +97,18 @@ template <class T>
 void rgbToHls(const TileRows& in, const TileRows& out, int n, const Matrix&) {
   constexpr float span = Range<T>::span;
   eachPixelInSteps<T>(in, out, n, [](Floats r, Floats g, Floats b) {
-    const Extremes e = extremes(r, g, b);
-    const Floats sum = e.most + e.least, room = sum <= span ? sum : 2 * span - sum;
-    return Channels{hue(r, g, b, e, span), sum / 2, e.spread * span / (room > 0 ? room : all(1))};
+    const Hue h = hueOf(r, g, b, span);
+    const Floats sum = h.most + h.least, room = smaller(sum, 2 * span - sum);
+    return Channels{h.turns, sum * 0.5f, h.spread * span / larger(room, all(kTiny))};
   });
 }
 
 template <class T>
 void hlsToRgb(const TileRows& in, const TileRows& out, int n, const Matrix&) {
-  eachPixelInFractions<T>(in, out, n, [](Floats h, Floats l, Floats s) {
-    const Floats room = l <= 0.5f ? l : 1 - l, most = l + room * s, least = 2 * l - most;
-    return rgbOf(least, most - least, h);
+  constexpr float span = Range<T>::span;
+  eachPixelInSteps<T>(in, out, n, [](Floats h, Floats l, Floats s) {
+    const Floats half = smaller(l, span - l) * (s * (1 / span));
+    return rgbOf(l - half, half + half, sixthsOf<T>(h));
   });
 }
 
@@ -100,17 +116,17 @@ template <class T>
 void rgbToHsv(const TileRows& in, const TileRows& out, int n, const Matrix&) {
   constexpr float span = Range<T>::span;
   eachPixelInSteps<T>(in, out, n, [](Floats r, Floats g, Floats b) {
-    const Extremes e = extremes(r, g, b);
-    const Floats saturation = e.spread * span / (e.most > 0 ? e.most : all(1));
-    return Channels{hue(r, g, b, e, span), saturation, e.most};
+    const Hue h = hueOf(r, g, b, span);
+    return Channels{h.turns, h.spread * span / larger(h.most, all(kTiny)), h.most};
   });
 }
 
 template <class T>
 void hsvToRgb(const TileRows& in, const TileRows& out, int n, const Matrix&) {
-  eachPixelInFractions<T>(in, out, n, [](Floats h, Floats s, Floats v) {
-    const Floats spread = v * s;
-    return rgbOf(v - spread, spread, h);
+  constexpr float span = Range<T>::span;
+  eachPixelInSteps<T>(in, out, n, [](Floats h, Floats s, Floats v) {
+    const Floats spread = v * (s * (1 / span));
+    return rgbOf(v - spread, spread, sixthsOf<T>(h));
   });
 }
 
