@@ -5,49 +5,66 @@
 namespace qor {
 namespace {
 
-// For pixels of 3 and 4 bytes. What is left of a row goes through a buffer, as no
-// byte behind it may be touched; rows of a tile have room behind their end.
-template <int stride, int channels>
-void loadBytes(const uint8_t* in, int n, uint8_t* const* plane) {
-  uint8_t rest[stride * kVec];
-  for (int i = 0; i < n; i += kVec) {
-    const uint8_t* from = in + stride * i;
-    if (n - i < kVec) from = static_cast<const uint8_t*>(__builtin_memcpy(rest, from, stride * (n - i)));
-    if constexpr (stride == 3) {
-      const Vec3 v = load3(from);
-      store(plane[0] + i, v.a);
-      store(plane[1] + i, v.b);
-      store(plane[2] + i, v.c);
-    } else {
-      const Vec4 v = load4(from);
-      store(plane[0] + i, v.a);
-      store(plane[1] + i, v.b);
-      store(plane[2] + i, v.c);
-      if (channels == 4) store(plane[3] + i, v.d);
-    }
+// What is left of a row goes through a buffer, as no byte behind it may be touched;
+// rows of a tile have room behind their end.
+template <int size>
+void loadThreeOf(const uint8_t* in, int n, const TileRows& out) {
+  constexpr int pixels = kVec / size;
+  uint8_t *a = out.plane[0], *b = out.plane[1], *c = out.plane[2], rest[3 * kVec];
+  for (int i = 0; i < n; i += pixels) {
+    const uint8_t* from = in + 3 * size * i;
+    if (n - i < pixels) from = static_cast<const uint8_t*>(__builtin_memcpy(rest, from, 3 * size * (n - i)));
+    const Vec3 v = load3<size>(from);
+    store(a + size * i, v.a);
+    store(b + size * i, v.b);
+    store(c + size * i, v.c);
   }
 }
 
-template <int stride>
-void storeBytes(uint8_t* out, int n, uint8_t* const* plane) {
-  uint8_t rest[stride * kVec];
+template <int size>
+void storeThreeOf(uint8_t* out, int n, const TileRows& in) {
+  constexpr int pixels = kVec / size;
+  const uint8_t *a = in.plane[0], *b = in.plane[1], *c = in.plane[2];
+  uint8_t rest[3 * kVec];
+  for (int i = 0; i < n; i += pixels) {
+    uint8_t *whole = out + 3 * size * i, *to = n - i < pixels ? rest : whole;
+    store3<size>(to, {load(a + size * i), load(b + size * i), load(c + size * i)});
+    if (to == rest) __builtin_memcpy(whole, rest, 3 * size * (n - i));
+  }
+}
+
+// Pixels of four bytes.
+template <int channels>
+void loadFourBytes(const uint8_t* in, int n, const TileRows& out) {
+  uint8_t rest[4 * kVec];
   for (int i = 0; i < n; i += kVec) {
-    uint8_t *whole = out + stride * i, *to = n - i < kVec ? rest : whole;
-    if constexpr (stride == 3) {
-      store3(to, {load(plane[0] + i), load(plane[1] + i), load(plane[2] + i)});
-    } else {
-      store4(to, {load(plane[0] + i), load(plane[1] + i), load(plane[2] + i), load(plane[3] + i)});
-    }
-    if (to == rest) __builtin_memcpy(whole, rest, stride * (n - i));
+    const uint8_t* from = in + 4 * i;
+    if (n - i < kVec) from = static_cast<const uint8_t*>(__builtin_memcpy(rest, from, 4 * (n - i)));
+    const Vec4 v = load4(from);
+    store(out.plane[0] + i, v.a);
+    store(out.plane[1] + i, v.b);
+    store(out.plane[2] + i, v.c);
+    if (channels == 4) store(out.plane[3] + i, v.d);
+  }
+}
+
+void storeFourBytes(uint8_t* out, int n, const TileRows& in) {
+  const uint8_t *a = in.plane[0], *b = in.plane[1], *c = in.plane[2], *d = in.plane[3];
+  uint8_t rest[4 * kVec];
+  for (int i = 0; i < n; i += kVec) {
+    uint8_t *whole = out + 4 * i, *to = n - i < kVec ? rest : whole;
+    store4(to, {load(a + i), load(b + i), load(c + i), load(d + i)});
+    if (to == rest) __builtin_memcpy(whole, rest, 4 * (n - i));
   }
 }
 
 // A pixel has `stride` elements, of which the first `channels` count.
 template <class E, int stride, int channels>
 void loadChannels(const Source& s, const Place& at, const TileRows& out) {
-  const E* in = reinterpret_cast<const E*>(s.row(0, at.y)) + static_cast<ptrdiff_t>(at.x) * stride;
-  if constexpr (sizeof(E) == 1)
-    return loadBytes<stride, channels>(reinterpret_cast<const uint8_t*>(in), at.n, out.plane);
+  const uint8_t* row = s.row(0, at.y) + static_cast<ptrdiff_t>(at.x) * stride * ptrdiff_t{sizeof(E)};
+  if constexpr (stride == 3) return loadThreeOf<sizeof(E)>(row, at.n, out);
+  if constexpr (sizeof(E) == 1 && stride == 4) return loadFourBytes<channels>(row, at.n, out);
+  const E* in = reinterpret_cast<const E*>(row);
   E* plane[channels];
   for (int c = 0; c < channels; ++c) plane[c] = reinterpret_cast<E*>(out.row(c, 0));
   for (int i = 0; i < at.n; ++i)
@@ -56,10 +73,11 @@ void loadChannels(const Source& s, const Place& at, const TileRows& out) {
 
 template <class E, int stride, int channels>
 void storeChannels(const Target& d, const Place& at, const TileRows& in) {
-  E* out = reinterpret_cast<E*>(d.row(0, at.y)) + static_cast<ptrdiff_t>(at.x) * stride;
+  uint8_t* row = d.row(0, at.y) + static_cast<ptrdiff_t>(at.x) * stride * ptrdiff_t{sizeof(E)};
+  if constexpr (stride == 3) return storeThreeOf<sizeof(E)>(row, at.n, in);
   // Not with an alpha that mustn't be written.
-  if constexpr (sizeof(E) == 1 && stride == channels)
-    return storeBytes<stride>(reinterpret_cast<uint8_t*>(out), at.n, in.plane);
+  if constexpr (sizeof(E) == 1 && channels == 4) return storeFourBytes(row, at.n, in);
+  E* out = reinterpret_cast<E*>(row);
   const E* plane[channels];
   for (int c = 0; c < channels; ++c) plane[c] = reinterpret_cast<const E*>(in.row(c, 0));
   for (int i = 0; i < at.n; ++i)

@@ -273,62 +273,78 @@ inline Vec4 load4(const uint8_t* p) {
           narrow(shiftRight32<24>(x0), shiftRight32<24>(x1), shiftRight32<24>(x2), shiftRight32<24>(x3))};
 }
 
-// Where byte q of the vector j of three interleaved ones goes, or comes from. On
-// SSE4.2 and AVX2 each channel has every byte place of a lane in exactly one of
-// the three vectors, so two blends and one shuffle collect it.
+// Three interleaved channels of elements of `size` bytes. On SSE4.2 and AVX2 each
+// channel has every element's place of a lane in exactly one of the three vectors, so
+// two blends and one shuffle collect it.
 #if defined(__AVX512VBMI__)
 
-struct alignas(64) Bytes64 {
-  uint8_t at[64];
+template <int size>
+struct alignas(64) Places {
+  uint8_t at[64];  // little-endian numbers of `size` bytes
+
+  constexpr Places() : at() {}
+  constexpr void set(int place, int number) { at[place * size] = static_cast<uint8_t>(number); }
 };
-constexpr Bytes64 kSplitFirst(int channel) {
-  Bytes64 r = {};
-  for (int k = 0; k < 64; ++k) r.at[k] = static_cast<uint8_t>(3 * k + channel < 128 ? 3 * k + channel : 0);
+// Channel c of vectors 0 and 1; then what has its place in the third.
+template <int size>
+constexpr Places<size> splitFirst(int channel) {
+  constexpr int n = 64 / size;
+  Places<size> r;
+  for (int k = 0; k < n; ++k) r.set(k, 3 * k + channel < 2 * n ? 3 * k + channel : 0);
   return r;
 }
-// Index 64 + ... is the third vector.
-constexpr Bytes64 kSplitSecond(int channel) {
-  Bytes64 r = {};
-  for (int k = 0; k < 64; ++k)
-    r.at[k] = static_cast<uint8_t>(3 * k + channel < 128 ? k : 64 + 3 * k + channel - 128);
+template <int size>
+constexpr Places<size> splitSecond(int channel) {
+  constexpr int n = 64 / size;
+  Places<size> r;
+  for (int k = 0; k < n; ++k) r.set(k, 3 * k + channel < 2 * n ? k : 3 * k + channel - n);
   return r;
 }
 // Vector j of three: first a and b, then c into it.
-constexpr Bytes64 kJoinFirst(int j) {
-  Bytes64 r = {};
-  for (int q = 0; q < 64; ++q) {
-    const int p = 64 * j + q;
-    r.at[q] = static_cast<uint8_t>(p % 3 == 0 ? p / 3 : p % 3 == 1 ? 64 + p / 3 : 0);
+template <int size>
+constexpr Places<size> joinFirst(int j) {
+  constexpr int n = 64 / size;
+  Places<size> r;
+  for (int q = 0; q < n; ++q) {
+    const int p = n * j + q;
+    r.set(q, p % 3 == 0 ? p / 3 : p % 3 == 1 ? n + p / 3 : 0);
   }
   return r;
 }
-constexpr Bytes64 kJoinSecond(int j) {
-  Bytes64 r = {};
-  for (int q = 0; q < 64; ++q) {
-    const int p = 64 * j + q;
-    r.at[q] = static_cast<uint8_t>(p % 3 == 2 ? 64 + p / 3 : q);
-  }
+template <int size>
+constexpr Places<size> joinSecond(int j) {
+  constexpr int n = 64 / size;
+  Places<size> r;
+  for (int q = 0; q < n; ++q) r.set(q, (n * j + q) % 3 == 2 ? n + (n * j + q) / 3 : q);
   return r;
 }
 
-template <int channel>
+template <int size>
+inline Vec fromBoth(Vec a, const Places<size>& places, Vec b) {
+  if constexpr (size == 1) return _mm512_permutex2var_epi8(a, load(&places), b);
+  if constexpr (size == 2) return _mm512_permutex2var_epi16(a, load(&places), b);
+  return _mm512_permutex2var_epi32(a, load(&places), b);
+}
+template <int size, int channel>
 inline Vec split(Vec x0, Vec x1, Vec x2) {
-  static constexpr Bytes64 first = kSplitFirst(channel), second = kSplitSecond(channel);
-  return _mm512_permutex2var_epi8(_mm512_permutex2var_epi8(x0, load(&first), x1), load(&second), x2);
+  static constexpr Places<size> first = splitFirst<size>(channel), second = splitSecond<size>(channel);
+  return fromBoth(fromBoth(x0, first, x1), second, x2);
 }
-template <int j>
+template <int size, int j>
 inline Vec join(const Vec3& v) {
-  static constexpr Bytes64 first = kJoinFirst(j), second = kJoinSecond(j);
-  return _mm512_permutex2var_epi8(_mm512_permutex2var_epi8(v.a, load(&first), v.b), load(&second), v.c);
+  static constexpr Places<size> first = joinFirst<size>(j), second = joinSecond<size>(j);
+  return fromBoth(fromBoth(v.a, first, v.b), second, v.c);
 }
+template <int size>
 inline Vec3 load3(const uint8_t* p) {
   const Vec x0 = load(p), x1 = load(p + kVec), x2 = load(p + 2 * kVec);
-  return {split<0>(x0, x1, x2), split<1>(x0, x1, x2), split<2>(x0, x1, x2)};
+  return {split<size, 0>(x0, x1, x2), split<size, 1>(x0, x1, x2), split<size, 2>(x0, x1, x2)};
 }
+template <int size>
 inline void store3(uint8_t* p, const Vec3& v) {
-  store(p, join<0>(v));
-  store(p + kVec, join<1>(v));
-  store(p + 2 * kVec, join<2>(v));
+  store(p, join<size, 0>(v));
+  store(p + kVec, join<size, 1>(v));
+  store(p + 2 * kVec, join<size, 2>(v));
 }
 
 #elif defined(__SSE4_1__)
@@ -336,22 +352,30 @@ inline void store3(uint8_t* p, const Vec3& v) {
 struct alignas(16) Bytes16 {
   uint8_t at[16];
 };
-// Byte places q with q % 3 == r.
-constexpr Bytes16 kThird(int r) {
+// Places p with p % 3 == r.
+template <int size>
+constexpr Bytes16 third(int r) {
   Bytes16 m = {};
-  for (int q = 0; q < 16; ++q) m.at[q] = q % 3 == r ? 0xFF : 0;
+  for (int q = 0; q < 16; ++q) m.at[q] = q / size % 3 == r ? 0xFF : 0;
   return m;
 }
-constexpr Bytes16 kSplit(int channel) {
+template <int size>
+constexpr Bytes16 splitPlaces(int channel) {
+  constexpr int n = 16 / size;
   Bytes16 m = {};
-  for (int k = 0; k < 16; ++k) m.at[k] = static_cast<uint8_t>((3 * k + channel) % 16);
+  for (int q = 0; q < 16; ++q)
+    m.at[q] = static_cast<uint8_t>((3 * (q / size) + channel) % n * size + q % size);
   return m;
 }
-constexpr Bytes16 kJoin(int channel) {
+// Of the one of three vectors whose place p belongs to the channel.
+template <int size>
+constexpr Bytes16 joinPlaces(int channel) {
+  constexpr int n = 16 / size;
   Bytes16 m = {};
   for (int q = 0; q < 16; ++q) {
-    const int j = (channel - q % 3 + 3) % 3;
-    m.at[q] = static_cast<uint8_t>((16 * j + q) / 3);
+    int j = 0;
+    while ((n * j + q / size) % 3 != channel) ++j;
+    m.at[q] = static_cast<uint8_t>((n * j + q / size) / 3 * size + q % size);
   }
   return m;
 }
@@ -364,9 +388,10 @@ inline Vec lanes(const Bytes16& m) {
   return lane;
 #endif
 }
-// Of three vectors the one whose number is (first + place) % 3.
+// Of three vectors the one whose number is place % 3.
+template <int size>
 inline Vec choose(Vec v0, Vec v1, Vec v2) {
-  static constexpr Bytes16 third1 = kThird(1), third2 = kThird(2);
+  static constexpr Bytes16 third1 = third<size>(1), third2 = third<size>(2);
   return QORCC_V(blendv_epi8)(QORCC_V(blendv_epi8)(v0, v1, lanes(third1)), v2, lanes(third2));
 }
 // Lanes 48 bytes apart.
@@ -386,38 +411,53 @@ inline void storeLanes(uint8_t* p, Vec v) {
   store(p, v);
 #endif
 }
+// A lane's elements are 1 more than a multiple of 3, or 2 more for words: the vectors
+// of one channel's places follow each other downwards or upwards.
+template <int size>
 inline Vec3 load3(const uint8_t* p) {
-  static constexpr Bytes16 split0 = kSplit(0), split1 = kSplit(1), split2 = kSplit(2);
+  static constexpr Bytes16 split0 = splitPlaces<size>(0), split1 = splitPlaces<size>(1),
+                           split2 = splitPlaces<size>(2);
   const Vec x0 = loadLanes(p), x1 = loadLanes(p + 16), x2 = loadLanes(p + 32);
-  return {QORCC_V(shuffle_epi8)(choose(x0, x2, x1), lanes(split0)),
-          QORCC_V(shuffle_epi8)(choose(x1, x0, x2), lanes(split1)),
-          QORCC_V(shuffle_epi8)(choose(x2, x1, x0), lanes(split2))};
+  const bool up = size == 2;
+  return {QORCC_V(shuffle_epi8)(up ? choose<size>(x0, x1, x2) : choose<size>(x0, x2, x1), lanes(split0)),
+          QORCC_V(shuffle_epi8)(up ? choose<size>(x2, x0, x1) : choose<size>(x1, x0, x2), lanes(split1)),
+          QORCC_V(shuffle_epi8)(up ? choose<size>(x1, x2, x0) : choose<size>(x2, x1, x0), lanes(split2))};
 }
+template <int size>
 inline void store3(uint8_t* p, const Vec3& v) {
-  static constexpr Bytes16 join0 = kJoin(0), join1 = kJoin(1), join2 = kJoin(2);
+  static constexpr Bytes16 join0 = joinPlaces<size>(0), join1 = joinPlaces<size>(1),
+                           join2 = joinPlaces<size>(2);
   const Vec a = QORCC_V(shuffle_epi8)(v.a, lanes(join0)), b = QORCC_V(shuffle_epi8)(v.b, lanes(join1)),
             c = QORCC_V(shuffle_epi8)(v.c, lanes(join2));
-  storeLanes(p, choose(a, b, c));
-  storeLanes(p + 16, choose(b, c, a));
-  storeLanes(p + 32, choose(c, a, b));
+  const bool up = size == 2;
+  storeLanes(p, choose<size>(a, b, c));
+  storeLanes(p + 16, up ? choose<size>(c, a, b) : choose<size>(b, c, a));
+  storeLanes(p + 32, up ? choose<size>(b, c, a) : choose<size>(c, a, b));
 }
 
 #else
 
-// Each round interleaves halves; after the fourth every channel is together.
+// Each round interleaves halves; after the last, log2 of a lane's elements, every
+// channel is together.
+template <int size>
 inline Vec3 load3(const uint8_t* p) {
   Vec x0 = load(p), x1 = load(p + 16), x2 = load(p + 32);
-  for (int round = 0; round < 4; ++round) {
-    const Vec y0 = low8(x0, _mm_unpackhi_epi64(x1, x1)), y1 = low8(_mm_unpackhi_epi64(x0, x0), x2),
-              y2 = low8(x1, _mm_unpackhi_epi64(x2, x2));
+  for (int elements = 16 / size; elements > 1; elements /= 2) {
+    const auto zip = [](Vec low, Vec high) {
+      return size == 1 ? low8(low, high) : size == 2 ? low16(low, high) : _mm_unpacklo_epi32(low, high);
+    };
+    const Vec y0 = zip(x0, _mm_unpackhi_epi64(x1, x1)), y1 = zip(_mm_unpackhi_epi64(x0, x0), x2),
+              y2 = zip(x1, _mm_unpackhi_epi64(x2, x2));
     x0 = y0, x1 = y1, x2 = y2;
   }
   return {x0, x1, x2};
 }
+template <int size>
 inline void store3(uint8_t* p, const Vec3& v) {
-  alignas(16) uint8_t a[16], b[16], c[16];
-  store(a, v.a), store(b, v.b), store(c, v.c);
-  for (int i = 0; i < 16; ++i) p[3 * i] = a[i], p[3 * i + 1] = b[i], p[3 * i + 2] = c[i];
+  alignas(16) uint8_t channel[3][16];
+  store(channel[0], v.a), store(channel[1], v.b), store(channel[2], v.c);
+  for (int i = 0; i < 16 / size; ++i)
+    for (int c = 0; c < 3; ++c) __builtin_memcpy(p + (3 * i + c) * size, channel[c] + i * size, size);
 }
 
 #endif
