@@ -232,13 +232,42 @@ Copy directCopy(const Function& f) {
   return nullptr;
 }
 
+// Rows without padding of pixels that nothing ties to their row are one long row.
+bool isTight(const Format& format, const ptrdiff_t* step, int width, int elementSize) {
+  const bool wholePairs = format.half && format.half->isPacked && width % 2 == 0;
+  if (format.isPlaced || (format.hshift != 0 && !wholePairs)) return false;
+  for (int p = 0; p < format.pointers; ++p)
+    if (step[p] != format.rowBytes(p, width, elementSize)) return false;
+  return true;
+}
+
+bool isOneRow(const Job& job, const Share& rows) {
+  const Function& f = job.f;
+  return int64_t{job.size.width} * (rows.last - rows.first) <= INT32_MAX &&
+         isTight(f.source, job.source.step, job.size.width, f.sourceSize) &&
+         isTight(f.target, job.target.step, job.size.width, f.targetSize);
+}
+
+void convertTiles(const Job& job, const Share& rows) {
+  Run run(job.f, job.source, job.target, job.matrix);
+  if (job.alpha) run.setAlpha(job.alpha);
+  run.rows(rows.first, rows.last, job.size);
+}
+
+void convertOneRow(const Job& job, const Share& rows) {
+  Source source;
+  Target target;
+  for (int p = 0; p < job.f.source.pointers; ++p) source.plane[p] = job.source.row(p, rows.first);
+  for (int p = 0; p < job.f.target.pointers; ++p) target.plane[p] = job.target.row(p, rows.first);
+  const QoriSize row = {job.size.width * (rows.last - rows.first), 1};
+  convertTiles({job.f, source, target, job.matrix, row, job.alpha}, {0, 1});
+}
+
 void convertRows(const Job& job, const Share& rows) {
   if (const Copy copy = directCopy(job.f))
     return copy({job.source, job.target, job.f.sourceOrder, job.f.targetOrder, job.size}, rows);
   const DefaultFloats floats;
-  Run run(job.f, job.source, job.target, job.matrix);
-  if (job.alpha) run.setAlpha(job.alpha);
-  run.rows(rows.first, rows.last, job.size);
+  isOneRow(job, rows) ? convertOneRow(job, rows) : convertTiles(job, rows);
 }
 
 void convertAll(const Job& job, int threads) {

@@ -26,20 +26,33 @@ ChromaPlanes chromaPlanes(const uint8_t* pairs, const uint8_t* planes) {
   return {same ? 1 : 2, same ? 2 : 1};
 }
 
+// The chroma lines of a share. Lines without padding are one long one.
+struct ChromaLines {
+  int first, count;
+  ptrdiff_t samples;
+
+  ChromaLines(const Move& m, const Share& rows, ptrdiff_t pairStep, ptrdiff_t firstStep, ptrdiff_t secondStep)
+      : first(rows.first / 2), count((rows.last + 1) / 2 - first), samples((m.size.width + 1) / 2) {
+    if (pairStep != 2 * samples || firstStep != samples || secondStep != samples) return;
+    samples *= count;
+    count = 1;
+  }
+};
+
 void splitPairs420(const Move& m, const Share& rows) {
   copyLuma(m, rows);
   const ChromaPlanes to = chromaPlanes(m.sourceOrder, m.targetOrder);
-  for (int y = rows.first / 2; y < (rows.last + 1) / 2; ++y)
-    splitPairs(m.source.row(1, y), (m.size.width + 1) / 2, m.target.row(to.first, y),
-               m.target.row(to.second, y));
+  const ChromaLines lines(m, rows, m.source.step[1], m.target.step[to.first], m.target.step[to.second]);
+  for (int y = lines.first; y < lines.first + lines.count; ++y)
+    splitPairs(m.source.row(1, y), lines.samples, m.target.row(to.first, y), m.target.row(to.second, y));
 }
 
 void mergePairs420(const Move& m, const Share& rows) {
   copyLuma(m, rows);
   const ChromaPlanes from = chromaPlanes(m.targetOrder, m.sourceOrder);
-  for (int y = rows.first / 2; y < (rows.last + 1) / 2; ++y)
-    mergePairs(m.source.row(from.first, y), m.source.row(from.second, y), (m.size.width + 1) / 2,
-               m.target.row(1, y));
+  const ChromaLines lines(m, rows, m.target.step[1], m.source.step[from.first], m.source.step[from.second]);
+  for (int y = lines.first; y < lines.first + lines.count; ++y)
+    mergePairs(m.source.row(from.first, y), m.source.row(from.second, y), lines.samples, m.target.row(1, y));
 }
 
 // Y0 Cb Y1 Cr to three rows. What the vectors leave, an odd last pixel among it, is

@@ -42,6 +42,7 @@ struct Format {
   Load load[3];   // for elements of 1, 2 and 4 bytes; null: no function needs it
   Store store[3];
   const HalfChroma* half = nullptr;  // null: not such a format
+  bool isPlaced = false;             // what is stored depends on the pixel's place
 
   // Bytes of a row behind pointer p that a call reads or writes.
   int64_t rowBytes(int p, int width, int elementSize) const {

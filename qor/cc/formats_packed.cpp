@@ -121,37 +121,44 @@ void load16(const Source& s, const Place& at, const TileRows& out) {
 // 0..15, each once, neighbours as unlike as possible (B. E. Bayer, ICC 1973).
 constexpr uint8_t kBayer[4][4] = {{0, 8, 2, 10}, {12, 4, 14, 6}, {3, 11, 1, 9}, {15, 7, 13, 5}};
 
-// The upper bits of kVec / 2 bytes, as words. A threshold below one step of the
-// shortened channel, 0..15 for 4 bits, comes first.
-template <int bits, bool dither>
-inline Vec cut(const uint8_t* bytes, Vec bayer) {
-  const Vec v = widen(bytes);
-  return shiftRight16<8 - bits>(dither ? saturatingAdd8(v, shiftRight16<bits - 4>(bayer)) : v);
+// Bytes shifted to the left, or to the right if negative, as far as the mask has room.
+template <int left, int mask>
+inline Vec shiftedBytes(Vec bytes) {
+  if constexpr (left >= 0) return bitAnd(shiftLeft16<left>(bytes), all8(mask));
+  return bitAnd(shiftRight16<-left>(bytes), all8(mask));
 }
 
-inline Vec bayerWords(int y) {
-  uint16_t words[kVec / 2];
-  for (int i = 0; i < kVec / 2; ++i) words[i] = kBayer[y & 3][i & 3];
-  return load(words);
+inline Vec bayerBytes(int y) {
+  uint8_t bytes[kVec];
+  for (int i = 0; i < kVec; ++i) bytes[i] = kBayer[y & 3][i & 3];
+  return load(bytes);
+}
+
+// Of a channel that keeps its upper bits: a threshold below one step of it, 0..15 for
+// 4 bits, comes first.
+template <int bits, bool dither>
+inline Vec dithered(const uint8_t* bytes, Vec bayer) {
+  const Vec v = load(bytes);
+  return dither ? saturatingAdd8(v, shiftedBytes<4 - bits, 0xF>(bayer)) : v;
 }
 
 template <int bitsA, int bitsB, int bitsC, bool dither>
 void store16(const Target& d, const Place& at, const TileRows& in) {
-  constexpr int pixels = kVec / 2;
+  constexpr int upper = bitsA + bitsB - 8;  // bits of b in the upper byte
   uint8_t* out = d.row(0, at.y) + ptrdiff_t{2} * at.x;
   const uint8_t *a = in.row(0, 0), *b = in.row(1, 0), *c = in.row(2, 0);
-  const Vec bayer = bayerWords(at.y);
-  for (int i = 0; i < at.n; i += pixels) {
-    const Vec va = cut<bitsA, dither>(a + i, bayer), vb = cut<bitsB, dither>(b + i, bayer),
-              vc = cut<bitsC, dither>(c + i, bayer);
-    const Vec words = bitOr(va, bitOr(shiftLeft16<bitsA>(vb), shiftLeft16<bitsA + bitsB>(vc)));
-    if (at.n - i >= pixels) {
-      store(out + 2 * i, words);
-    } else {
-      uint8_t rest[kVec];
-      store(rest, words);
-      __builtin_memcpy(out + 2 * i, rest, 2 * (at.n - i));
-    }
+  const Vec bayer = bayerBytes(at.y);
+  uint8_t rest[2 * kVec];
+  for (int i = 0; i < at.n; i += kVec) {
+    const Vec va = dithered<bitsA, dither>(a + i, bayer), vb = dithered<bitsB, dither>(b + i, bayer),
+              vc = dithered<bitsC, dither>(c + i, bayer);
+    const Vec low =
+        bitOr(shiftedBytes<bitsA - 8, (1 << bitsA) - 1>(va), shiftedBytes<upper, 0xFF & -(1 << bitsA)>(vb));
+    const Vec high = bitOr(shiftedBytes<upper - 8, (1 << upper) - 1>(vb),
+                           shiftedBytes<upper + bitsC - 8, ((1 << bitsC) - 1) << upper>(vc));
+    uint8_t *whole = out + 2 * i, *to = at.n - i < kVec ? rest : whole;
+    storeZipped8(to, low, high);
+    if (to == rest) __builtin_memcpy(whole, rest, 2 * (at.n - i));
   }
 }
 
@@ -183,8 +190,16 @@ constexpr Format planar() {
 
 template <int a, int b, int c, bool dither>
 constexpr Format pixels16() {
-  return {
-      1, 1, 0, 0, 1, 3, {nullptr, load16<a, b, c>, nullptr}, {nullptr, store16<a, b, c, dither>, nullptr}};
+  return {1,
+          1,
+          0,
+          0,
+          1,
+          3,
+          {nullptr, load16<a, b, c>, nullptr},
+          {nullptr, store16<a, b, c, dither>, nullptr},
+          nullptr,
+          dither};
 }
 
 }  // namespace

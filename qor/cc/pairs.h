@@ -8,8 +8,8 @@ namespace qor {
 namespace {
 
 // n pairs to two rows.
-inline void splitPairs(const uint8_t* pairs, int n, uint8_t* first, uint8_t* second) {
-  int i = 0;
+inline void splitPairs(const uint8_t* pairs, ptrdiff_t n, uint8_t* first, uint8_t* second) {
+  ptrdiff_t i = 0;
   for (; i + kVec <= n; i += kVec) {
     const Vec low = load(pairs + 2 * i), high = load(pairs + 2 * i + kVec);
     store(first + i, narrow(bitAnd(low, all16(0xFF)), bitAnd(high, all16(0xFF))));
@@ -21,11 +21,9 @@ inline void splitPairs(const uint8_t* pairs, int n, uint8_t* first, uint8_t* sec
   }
 }
 
-inline void mergePairs(const uint8_t* first, const uint8_t* second, int n, uint8_t* pairs) {
-  constexpr int step = kVec / 2;
-  int i = 0;
-  for (; i + step <= n; i += step)
-    store(pairs + 2 * i, bitOr(widen(first + i), shiftLeft16<8>(widen(second + i))));
+inline void mergePairs(const uint8_t* first, const uint8_t* second, ptrdiff_t n, uint8_t* pairs) {
+  ptrdiff_t i = 0;
+  for (; i + kVec <= n; i += kVec) storeZipped8(pairs + 2 * i, load(first + i), load(second + i));
   for (; i < n; ++i) {
     pairs[2 * i] = first[i];
     pairs[2 * i + 1] = second[i];

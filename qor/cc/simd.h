@@ -189,10 +189,9 @@ inline Vec narrow(Vec a, Vec b, Vec c, Vec d) {
 #endif
 }
 
-// a0 b0 a1 b1 ... of words.
-inline void storeZipped16(void* to, Vec a, Vec b) {
-  const Vec low = low16(a, b), high = high16(a, b);
-  uint8_t* p = static_cast<uint8_t*>(to);
+// a0 b0 a1 b1 ... of bytes.
+inline void storeZipped8(uint8_t* p, Vec a, Vec b) {
+  const Vec low = low8(a, b), high = high8(a, b);
 #if defined(__AVX512VBMI__)
   const Vec first = _mm512_setr_epi64(0, 1, 8, 9, 2, 3, 10, 11);
   const Vec second = _mm512_setr_epi64(4, 5, 12, 13, 6, 7, 14, 15);
