@@ -70,8 +70,8 @@ constexpr int16_t word(int v) {
   return static_cast<int16_t>(v);
 }
 
-// Factors below 1 get 15 bits, others 14. The offset holds what the constants
-// 128 stand for, exactly, and the half that rounds.
+// Factors below 1 get 15 bits, others 14. The offset holds the half that rounds and
+// makes the middle of the range exact, whatever the factors have lost.
 constexpr Fixed fixedPoint(const Linear& a) {
   Fixed r;
   double largest = 0;
@@ -85,14 +85,16 @@ constexpr Fixed fixedPoint(const Linear& a) {
   const double one = 1 << r.shift;
   for (int i = 0; i < 3; ++i) {
     double offset = a.offset[i] * 255 + 0.5;
+    int ofMiddle = 0;
     for (int j = 0; j < 3; ++j) {
       const int factor = toNearest(a.m[i][j] * one);
       const int share = j == r.twice && (factor < -32768 || factor > 32767) ? factor / 2 : 0;
       r.m[i][j] = word(factor - share);
       if (j == r.twice) r.m[i][3] = word(share);
       offset += 128 * a.m[i][j];
+      ofMiddle += 128 * factor;
     }
-    r.offset[i] = toNearest(offset * one);
+    r.offset[i] = toNearest(offset * one) - ofMiddle;
   }
   return r;
 }

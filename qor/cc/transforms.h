@@ -6,9 +6,8 @@
 
 namespace qor {
 
-// A matrix for bytes in fixed point: out = (m (a', b', c', twice') + offset) >> shift,
-// a' being a - 128 and so on. The channel `twice` has two factors, the sum of
-// which may be larger than a word.
+// A matrix for bytes in fixed point: out = (m (a, b, c, twice) + offset) >> shift. The
+// channel `twice` has two factors, the sum of which may be larger than a word.
 struct Fixed {
   int16_t m[3][4] = {};
   int32_t offset[3] = {};

@@ -8,51 +8,48 @@
 namespace qor {
 namespace {
 
-struct Words {
-  Vec low, high;
+// Double words of two bytes each, kVec pixels in lanes.
+struct Pairs {
+  Vec pixels[4];
+
+  Pairs(Vec a, Vec b) {
+    const Vec low = low8(a, b), high = high8(a, b);
+    pixels[0] = low8(low, zero());
+    pixels[1] = high8(low, zero());
+    pixels[2] = low8(high, zero());
+    pixels[3] = high8(high, zero());
+  }
 };
 
-// The bytes less 128.
-inline Words centred(Vec bytes) {
-  const Vec middle = all16(128);
-  return {sub16(low8(bytes, zero()), middle), sub16(high8(bytes, zero()), middle)};
-}
-
-// One row of the matrix.
+// One row of the matrix. Its second pair of factors may be 0.
 struct Row {
-  Vec ab, cd, offset;
+  Vec ac, bd, offset;
 
   Row(const Fixed& f, int i)
-      : ab(allPairs(f.m[i][0], f.m[i][1])), cd(allPairs(f.m[i][2], f.m[i][3])), offset(all32(f.offset[i])) {}
+      : ac(allPairs(f.m[i][0], f.m[i][2])), bd(allPairs(f.m[i][1], f.m[i][3])), offset(all32(f.offset[i])) {}
 
-  template <int shift>
-  Vec dot(Vec abWords, Vec cdWords) const {
-    return shiftRightSigned32<shift>(addPairs(addPairs(offset, abWords, ab), cdWords, cd));
-  }
-
-  // For kVec / 2 pixels.
-  template <int shift>
-  Vec words(Vec a, Vec b, Vec c, Vec d) const {
-    return pack32(dot<shift>(low16(a, b), low16(c, d)), dot<shift>(high16(a, b), high16(c, d)));
+  template <int shift, bool firstOnly>
+  Vec bytes(const Pairs& acPairs, const Pairs& bdPairs) const {
+    const auto dot = [&](int k) {
+      const Vec first = addPairs(offset, acPairs.pixels[k], ac);
+      return shiftRightSigned32<shift>(firstOnly ? first : addPairs(first, bdPairs.pixels[k], bd));
+    };
+    return pack16(pack32(dot(0), dot(1)), pack32(dot(2), dot(3)));
   }
 };
 
 // Tile rows have room for a whole vector behind their last pixel.
-template <int shift, int twice>
+template <int shift, int twice, bool firstOnly>
 void multiplyFixed(const TileRows& in, const TileRows& out, int n, const Fixed& f) {
   const uint8_t *pa = in.plane[0], *pb = in.plane[1], *pc = in.plane[2];
   const Row row0(f, 0), row1(f, 1), row2(f, 2);
   uint8_t *to0 = out.plane[0], *to1 = out.plane[1], *to2 = out.plane[2];
   for (int i = 0; i < n; i += kVec) {
-    const Words a = centred(load(pa + i)), b = centred(load(pb + i)), c = centred(load(pc + i));
-    const Words& d = twice == 0 ? a : twice == 1 ? b : c;
-    const auto bytes = [&](const Row& row) {
-      return pack16(row.words<shift>(a.low, b.low, c.low, d.low),
-                    row.words<shift>(a.high, b.high, c.high, d.high));
-    };
-    store(to0 + i, bytes(row0));
-    store(to1 + i, bytes(row1));
-    store(to2 + i, bytes(row2));
+    const Vec a = load(pa + i), b = load(pb + i), c = load(pc + i);
+    const Pairs ac(a, c), bd(b, twice == 0 ? a : twice == 1 ? b : c);
+    store(to0 + i, row0.bytes<shift, firstOnly>(ac, bd));
+    store(to1 + i, row1.bytes<shift, false>(ac, bd));
+    store(to2 + i, row2.bytes<shift, false>(ac, bd));
   }
 }
 
@@ -60,9 +57,11 @@ void multiplyFixed(const TileRows& in, const TileRows& out, int n, const Fixed& 
 
 void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
   const Fixed& f = matrix.fixed;
-  if (f.shift == 15) return multiplyFixed<15, 2>(in, out, n, f);  // no factor needs two shares
-  if (f.twice == 0) return multiplyFixed<14, 0>(in, out, n, f);
-  f.twice == 1 ? multiplyFixed<14, 1>(in, out, n, f) : multiplyFixed<14, 2>(in, out, n, f);
+  if (f.shift == 15) return multiplyFixed<15, 2, false>(in, out, n, f);  // no factor needs two shares
+  if (f.twice == 0) return multiplyFixed<14, 0, false>(in, out, n, f);
+  // Luma and chroma to channels, of which the first knows no Cb.
+  if (f.twice == 1 && f.m[0][1] == 0 && f.m[0][3] == 0) return multiplyFixed<14, 1, true>(in, out, n, f);
+  f.twice == 1 ? multiplyFixed<14, 1, false>(in, out, n, f) : multiplyFixed<14, 2, false>(in, out, n, f);
 }
 
 void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
