@@ -139,10 +139,29 @@ class Run {
       load_(source_, at, rowOf(in_, f_.sourceOrder, r));
       return applyLuma(rowOf(in_, kOrder_abc, r), out, at.n, matrix_);
     }
-    load_(source_, at, in_.rows(f_.sourceOrder));
+    const TileRows in = planesOf(at);
     // First, since a transform of four channels writes alpha anew.
-    if (keepsAlpha_) __builtin_memcpy(out.plane[3], in_.bytes[3][0], at.n * f_.targetSize);
-    f_.transform.apply(in_.rows(kOrder_abc), out, at.n, matrix_);
+    if (keepsAlpha_) __builtin_memcpy(out.plane[3], in.plane[3], at.n * f_.targetSize);
+    f_.transform.apply(in, out, at.n, matrix_);
+  }
+
+  // The source's own planes where transforms, which work on whole vectors, stay inside.
+  TileRows planesOf(const Place& at) {
+    if (f_.source.isPlanar() && at.n * f_.sourceSize % 64 == 0 && isAligned(at.y)) {
+      TileRows own = {};
+      for (int p = 0; p < f_.source.channels; ++p)
+        own.plane[f_.sourceOrder[p]] =
+            const_cast<uint8_t*>(source_.row(p, at.y)) + ptrdiff_t{at.x} * f_.sourceSize;
+      return own;
+    }
+    load_(source_, at, in_.rows(f_.sourceOrder));
+    return in_.rows(kOrder_abc);
+  }
+
+  bool isAligned(int y) const {
+    uintptr_t bits = 0;
+    for (int p = 0; p < f_.source.channels; ++p) bits |= reinterpret_cast<uintptr_t>(source_.row(p, y));
+    return bits % f_.sourceSize == 0;
   }
 
   void rowFromHalf(const Place& at, const TileRows& out) {

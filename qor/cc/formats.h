@@ -44,6 +44,9 @@ struct Format {
   const HalfChroma* half = nullptr;  // null: not such a format
   bool isPlaced = false;             // what is stored depends on the pixel's place
 
+  // Each channel has a plane of the image's resolution.
+  bool isPlanar() const { return perPixel == 1 && hshift == 0 && pointers == channels; }
+
   // Bytes of a row behind pointer p that a call reads or writes.
   int64_t rowBytes(int p, int width, int elementSize) const {
     if (p == 0) return int64_t{width} * perPixel * elementSize;
