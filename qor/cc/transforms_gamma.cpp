@@ -16,36 +16,43 @@ inline const Qor16u* tableOf(bool forward, Qor16u) {
 }
 
 // The power of gammacurve.h for floats, kDoubles of them: minimax in m - 1.5, relative
-// error below 4e-9, a twentieth of a float's last place. The exponent, -6 to 0, leaves the
-// three low bits of its field as 1 to 7, each of which has its factor.
+// error below 4e-9, a twentieth of a float's last place. The exponent, -7 to 0, is in the
+// three low bits of its field.
 struct QuickPower {
   double terms[9];
-  double ofBits[3];  // 2^1, 2^2, 2^4 to that power
-  double least;      // 2^-7
+  Eight ofExponent;
 };
 
-constexpr QuickPower kQuick045 = {{-0.0008580473288906601, 0.0014612311588583932, -0.0022585517262940679,
-                                   0.0045271945259382992, -0.0096691081476527396, 0.022739757841510238,
-                                   -0.066008845184075424, 0.36004952836682582, 1.2001652999678886},
-                                  {1.3660402567543955, 1.8660659830736148, 3.4822022531844966},
-                                  0.11265630782635378};
+constexpr QuickPower kQuick045 = {
+    {-0.0008580473288906601, 0.0014612311588583932, -0.0022585517262940679, 0.0045271945259382992,
+     -0.0096691081476527396, 0.022739757841510238, -0.066008845184075424, 0.36004952836682582,
+     1.2001652999678886},
+    Eight({0.11265630782635378, 0.15389305166811454, 0.21022410381342864, 0.28717458874925875,
+           0.39229204894837537, 0.53588673126814658, 0.73204284797281271, 1.0})};
 
 constexpr QuickPower kQuickInverse = {
     {-0.00012461156059740939, 0.00027546684637641232, -0.00068720578579817671, 0.0022503626684768875,
      -0.009514179403576298, 0.073386434608575769, 1.4860693344278165, 3.6476245967847683, 2.4621466057786762},
-    {4.6661161583044663, 21.772640002790031, 474.0478526910927},
-    2.0764007571020156e-5};
+    Eight({2.0764007571020156e-5, 9.6887271238293425e-5, 0.00045208726185902853, 0.0021094916775240355,
+           0.0098431332023036966, 0.045929202883612464, 0.21431099571326821, 1.0})};
 
-// Beyond its range of exponents some finite value.
-inline Doubles quickPower(Doubles x, const QuickPower& p, double gain) {
+inline Doubles ofFraction(Doubles x, const double (&terms)[9]) {
   const Longs bits = reinterpret_cast<Longs>(x);
   const Doubles t = reinterpret_cast<Doubles>((bits & 0xFFFFFFFFFFFFF) | 0x3FF0000000000000) - 1.5;
-  Doubles sum = allDoubles(p.terms[0]);
-  for (int i = 1; i < 9; ++i) sum = sum * t + p.terms[i];
-  Doubles factor = whereBit<52>(bits, gain * p.least * p.ofBits[0], gain * p.least);
-  factor *= whereBit<53>(bits, p.ofBits[1], 1);
-  factor *= whereBit<54>(bits, p.ofBits[2], 1);
-  return sum * factor;
+  // Even and odd powers apart: a chain of eight sums would be waited for.
+  const Doubles square = t * t;
+  Doubles even = allDoubles(terms[0]), odd = allDoubles(terms[1]);
+  for (int i = 2; i < 8; i += 2) {
+    even = even * square + terms[i];
+    odd = odd * square + terms[i + 1];
+  }
+  return even * square + terms[8] + odd * t;
+}
+
+// Beyond the range of exponents some finite value.
+inline TwoDoubles quickPower(const TwoDoubles& x, const QuickPower& p) {
+  const TwoDoubles factors = ofExponents(p.ofExponent, x);
+  return {ofFraction(x.lower, p.terms) * factors.lower, ofFraction(x.upper, p.terms) * factors.upper};
 }
 
 }  // namespace
@@ -64,20 +71,23 @@ template <Direction direction>
 void applyFloatGamma(const TileRows& in, const TileRows& out, int n, const Matrix& span) {
   constexpr const Curve& c = kCurve<direction>;
   constexpr const QuickPower& p = direction == Direction::forward ? kQuick045 : kQuickInverse;
-  const double low = span.m[0][0], width = span.m[0][1] - low, perWidth = 1 / width;
-  const double slope = c.slope * width, gain = c.gain * width, offset = c.offset * width + low;
+  const Floats least = all(span.m[0][0]), most = all(span.m[0][1]);
+  const double low = span.m[0][0], width = span.m[0][1] - low;
+  // Linear maps of what is held within the span.
+  const double perWidth = c.scale / width, shift = c.shift * c.scale - low * perWidth;
+  const double knee = low + c.knee * width, ofKnee = low - c.slope * low;
+  const double gain = c.gain * width, offset = c.offset * width + low;
+  const auto bent = [&](Doubles held, Doubles power) {
+    return held < knee ? held * c.slope + ofKnee : power * gain + offset;
+  };
   for (int plane = 0; plane < 3; ++plane) {
     const Qor32f* s = reinterpret_cast<const Qor32f*>(in.plane[plane]);
     Qor32f* o = reinterpret_cast<Qor32f*>(out.plane[plane]);
     for (int i = 0; i < n; i += kFloats) {
-      const Floats held = atMost(atLeast(loadFloats(s + i), span.m[0][0]), span.m[0][1]);
-      const auto bend = [&](Doubles d) {
-        const Doubles v = (d - low) * perWidth,
-                      base = direction == Direction::forward ? v : (v + c.shift) * c.scale;
-        const Doubles bent = quickPower(base, p, gain) + offset;
-        return v < c.knee ? v * slope + low : bent;
-      };
-      *reinterpret_cast<FloatsInMemory*>(o + i) = together(bend(lowerHalf(held)), bend(upperHalf(held)));
+      const TwoDoubles held = toDoubles(smaller(larger(loadFloats(s + i), least), most));
+      const TwoDoubles power = quickPower({held.lower * perWidth + shift, held.upper * perWidth + shift}, p);
+      *reinterpret_cast<FloatsInMemory*>(o + i) =
+          toFloats({bent(held.lower, power.lower), bent(held.upper, power.upper)});
     }
   }
 }
