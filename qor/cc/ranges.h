@@ -39,6 +39,13 @@ inline float atMost(float v, float high) {
   return v < high ? v : high;
 }
 
+inline double atLeast(double v, double low) {
+  return v > low ? v : low;
+}
+inline double atMost(double v, double high) {
+  return v < high ? v : high;
+}
+
 // To nearest, half up, saturated; float unchanged. Truncation of a value that
 // isn't negative needs no rounding mode.
 template <class T>

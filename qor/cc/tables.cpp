@@ -24,7 +24,9 @@ struct GammaTable {
 
   GammaTable() {
     const double span = qor::Range<T>::span;
-    for (int i = 0; i <= span; ++i) value[i] = static_cast<T>(qor::curve<direction>(i / span) * span + 0.5);
+    // A hair more than the half: 2758.5 may be 2758.4999999.
+    for (int i = 0; i <= span; ++i)
+      value[i] = static_cast<T>(qor::curve<direction>(i / span) * span + (0.5 + 1e-9));
   }
 };
 

@@ -11,91 +11,117 @@ constexpr double rowSum(int row) {
   return kXyz.m[row][0] + kXyz.m[row][1] + kXyz.m[row][2];
 }
 constexpr double kWhiteSum = rowSum(0) + 15 * rowSum(1) + 3 * rowSum(2);
-constexpr float kWhiteX = static_cast<float>(rowSum(0)), kWhiteZ = static_cast<float>(rowSum(2));
-constexpr float kWhiteU = static_cast<float>(4 * rowSum(0) / kWhiteSum);
-constexpr float kWhiteV = static_cast<float>(9 * rowSum(1) / kWhiteSum);
-constexpr Matrix kToXyz = forRange(kXyz, 0, 1);
+constexpr double kWhiteX = rowSum(0), kWhiteZ = rowSum(2);
+constexpr double kWhiteU = 4 * rowSum(0) / kWhiteSum, kWhiteV = 9 * rowSum(1) / kWhiteSum;
 
 // Below (24/116)^3 of white, L* is linear: L* = (116/12)^3 Y, f(t) = 841/108 t + 16/116. The line touches the
 // cube root's curve there and lies above it elsewhere, so the curve is the smaller of the line and of the
 // root, kept from falling below that point. Choosing by t instead would let the compiler take roots of 0 for
 // lanes whose result is dropped, and the units would tell an invalid operation that no caller asked for.
-constexpr float kLinearBelow = 216.0f / 24389, kSlopeL = 24389.0f / 27, kSlopeF = 841.0f / 108,
-                kShiftF = 16.0f / 116;
+constexpr double kLinearBelow = 216.0 / 24389, kSlopeL = 24389.0 / 27, kSlopeF = 841.0 / 108,
+                 kShiftF = 16.0 / 116;
 
 // No colour's v' comes near 0; what does is kept from a division by 0.
-constexpr float kLeastV = 1e-3f;
+constexpr double kLeastV = 1e-3;
 
+// R is float for bytes and double for wider elements: u' and v' are differences of
+// near numbers, of which 16 bits show what floats lose.
+template <class R>
 struct Triple {
-  float x, y, z;
+  R x, y, z;
 };
+template <class R>
+struct Weights {
+  R m[3][3];
 
+  explicit constexpr Weights(const Linear& a) : m() {
+    for (int i = 0; i < 3; ++i)
+      for (int j = 0; j < 3; ++j) m[i][j] = static_cast<R>(a.m[i][j]);
+  }
+};
+template <class R>
+constexpr Weights<R> kToXyz(kXyz);
+template <class R>
+constexpr Weights<R> kToRgb(inverse(kXyz));
+
+template <class R>
+inline R halley(R v, R y) {
+  const R cube = y * y * y;
+  return y * (cube + 2 * v) / (2 * cube + v);
+}
 // A first guess from a third of the exponent, then two Halley steps: relative
 // error below 1e-6 for normal numbers above 0. Plain arithmetic, so that loops
 // become vectors and every build gives the same bits.
 inline float cubeRoot(float v) {
   const float guess =
       __builtin_bit_cast(float, static_cast<int>(__builtin_bit_cast(int, v) / 3 + 0x2a5137a0));
-  const auto step = [v](float y) {
-    const float cube = y * y * y;
-    return y * (cube + 2 * v) / (2 * cube + v);
-  };
-  return step(step(guess));
+  return halley(v, halley(v, guess));
+}
+inline double cubeRoot(double v) {
+  return halley(v, static_cast<double>(cubeRoot(static_cast<float>(v))));
 }
 
-inline Triple multiply(const Matrix& m, Triple t) {
-  return {m.m[0][0] * t.x + m.m[0][1] * t.y + m.m[0][2] * t.z,
-          m.m[1][0] * t.x + m.m[1][1] * t.y + m.m[1][2] * t.z,
-          m.m[2][0] * t.x + m.m[2][1] * t.y + m.m[2][2] * t.z};
+template <class R>
+inline Triple<R> multiply(const Weights<R>& w, Triple<R> t) {
+  return {w.m[0][0] * t.x + w.m[0][1] * t.y + w.m[0][2] * t.z,
+          w.m[1][0] * t.x + w.m[1][1] * t.y + w.m[1][2] * t.z,
+          w.m[2][0] * t.x + w.m[2][1] * t.y + w.m[2][2] * t.z};
 }
 
-inline Triple luvOf(Triple rgb) {
-  const Triple xyz = multiply(kToXyz, rgb);
-  const float root = cubeRoot(atLeast(xyz.y, kLinearBelow));
-  const float l = atMost(116 * root - 16, kSlopeL * xyz.y);
-  const float sum = xyz.x + 15 * xyz.y + 3 * xyz.z;
-  const float scale = 1 / (sum > 0 ? sum : 1);
-  return {l, 13 * l * (4 * xyz.x * scale - kWhiteU), 13 * l * (9 * xyz.y * scale - kWhiteV)};
+template <class R>
+inline Triple<R> luvOf(Triple<R> rgb) {
+  const Triple<R> xyz = multiply(kToXyz<R>, rgb);
+  const R root = cubeRoot(atLeast(xyz.y, R(kLinearBelow)));
+  const R l = atMost(116 * root - 16, R(kSlopeL) * xyz.y);
+  const R sum = xyz.x + 15 * xyz.y + 3 * xyz.z;
+  const R scale = 1 / (sum > 0 ? sum : 1);
+  return {l, 13 * l * (4 * xyz.x * scale - R(kWhiteU)), 13 * l * (9 * xyz.y * scale - R(kWhiteV))};
 }
 
-inline float luminance(float l) {
-  const float t = (l + 16) * (1 / 116.0f);
-  const float cube = t * t * t, line = l * (1 / kSlopeL);
-  return l > kLinearBelow * kSlopeL ? cube : line;
+template <class R>
+inline R luminance(R l) {
+  const R t = (l + 16) * R(1 / 116.0);
+  const R cube = t * t * t, line = l * R(1 / kSlopeL);
+  return l > R(kLinearBelow * kSlopeL) ? cube : line;
 }
 
-inline Triple rgbOfLuv(Triple luv, const Matrix& toRgb) {
+template <class R>
+inline Triple<R> rgbOfLuv(Triple<R> luv) {
   const bool black = !(luv.x > 0);
-  const float scale = 1 / (13 * (black ? 1 : luv.x));
-  const float u = luv.y * scale + kWhiteU, v = atLeast(luv.z * scale + kWhiteV, kLeastV);
-  const float light = luminance(luv.x), y = black ? 0 : light, quarter = y / (4 * v);
-  return multiply(toRgb, {9 * u * quarter, y, (12 - 3 * u - 20 * v) * quarter});
+  const R scale = 1 / (13 * (black ? 1 : luv.x));
+  const R u = luv.y * scale + R(kWhiteU), v = atLeast(luv.z * scale + R(kWhiteV), R(kLeastV));
+  const R light = luminance(luv.x), y = black ? 0 : light, quarter = y / (4 * v);
+  return multiply(kToRgb<R>, {9 * u * quarter, y, (12 - 3 * u - 20 * v) * quarter});
 }
 
-inline float curve(float t) {
-  const float root = cubeRoot(atLeast(t, kLinearBelow)), line = kSlopeF * t + kShiftF;
+template <class R>
+inline R curve(R t) {
+  const R root = cubeRoot(atLeast(t, R(kLinearBelow))), line = R(kSlopeF) * t + R(kShiftF);
   return atMost(root, line);
 }
-inline float curveBack(float f) {
-  const float cube = f * f * f, line = (f - kShiftF) * (1 / kSlopeF);
-  return line > kLinearBelow ? cube : line;
+template <class R>
+inline R curveBack(R f) {
+  const R cube = f * f * f, line = (f - R(kShiftF)) * R(1 / kSlopeF);
+  return line > R(kLinearBelow) ? cube : line;
 }
 
-inline Triple labOf(Triple rgb) {
-  const Triple xyz = multiply(kToXyz, rgb);
-  const float fx = curve(xyz.x * (1 / kWhiteX)), fy = curve(xyz.y), fz = curve(xyz.z * (1 / kWhiteZ));
+template <class R>
+inline Triple<R> labOf(Triple<R> rgb) {
+  const Triple<R> xyz = multiply(kToXyz<R>, rgb);
+  const R fx = curve(xyz.x * R(1 / kWhiteX)), fy = curve(xyz.y), fz = curve(xyz.z * R(1 / kWhiteZ));
   return {116 * fy - 16, 500 * (fx - fy), 200 * (fy - fz)};
 }
 
-inline Triple rgbOfLab(Triple lab, const Matrix& toRgb) {
-  const float fy = (lab.x + 16) * (1 / 116.0f);
-  const float fx = fy + lab.y * (1 / 500.0f), fz = fy - lab.z * (1 / 200.0f);
-  return multiply(toRgb, {kWhiteX * curveBack(fx), curveBack(fy), kWhiteZ * curveBack(fz)});
+template <class R>
+inline Triple<R> rgbOfLab(Triple<R> lab) {
+  const R fy = (lab.x + 16) * R(1 / 116.0);
+  const R fx = fy + lab.y * R(1 / 500.0), fz = fy - lab.z * R(1 / 200.0);
+  return multiply(kToRgb<R>, {R(kWhiteX) * curveBack(fx), curveBack(fy), R(kWhiteZ) * curveBack(fz)});
 }
 
 // How the plain values lie in 0..1 of an integer.
 struct Scale {
-  Triple factor, offset;
+  Triple<double> factor, offset;
 };
 constexpr Scale kLuvScale = {{100, 354, 262}, {0, -134, -140}};
 constexpr Scale kLabScale = {{100, 255, 255}, {0, -128, -128}};
@@ -105,29 +131,47 @@ constexpr bool kIsFloat = false;
 template <>
 constexpr bool kIsFloat<Qor32f> = true;
 
-template <class S>
-Triple plain(Triple t, const Scale& s) {
+template <class S, class R>
+Triple<R> plain(Triple<R> t, const Scale& s) {
   if (kIsFloat<S>) return t;
-  return {t.x * s.factor.x + s.offset.x, t.y * s.factor.y + s.offset.y, t.z * s.factor.z + s.offset.z};
+  return {t.x * R(s.factor.x) + R(s.offset.x), t.y * R(s.factor.y) + R(s.offset.y),
+          t.z * R(s.factor.z) + R(s.offset.z)};
 }
 
-template <class D>
-Triple coded(Triple t, const Scale& s) {
+template <class D, class R>
+Triple<R> coded(Triple<R> t, const Scale& s) {
   if (kIsFloat<D>) return t;
-  return {(t.x - s.offset.x) * (1 / s.factor.x), (t.y - s.offset.y) * (1 / s.factor.y),
-          (t.z - s.offset.z) * (1 / s.factor.z)};
+  return {(t.x - R(s.offset.x)) * R(1 / s.factor.x), (t.y - R(s.offset.y)) * R(1 / s.factor.y),
+          (t.z - R(s.offset.z)) * R(1 / s.factor.z)};
+}
+
+template <class T>
+struct Reckoning {
+  using Type = double;
+};
+template <>
+struct Reckoning<Qor8u> {
+  using Type = float;
+};
+
+template <class R, class T>
+inline R fractionOf(T v) {
+  if (kIsFloat<T>) return v;
+  return (static_cast<R>(v) - R(Range<T>::low)) * R(1 / double{Range<T>::span});
 }
 
 template <class S, class D, class Pixel>
 void eachPixel(const TileRows& in, const TileRows& out, int n, Pixel pixel) {
+  using R = typename Reckoning<S>::Type;
   const Planes<const S> from(in);
   const Planes<D> to(out);
   D* __restrict a = to.a, * __restrict b = to.b, * __restrict c = to.c;
   for (int i = 0; i < n; ++i) {
-    const Triple t = pixel({fraction(from.a[i]), fraction(from.b[i]), fraction(from.c[i])});
-    a[i] = fromFraction<D>(t.x);
-    b[i] = fromFraction<D>(t.y);
-    c[i] = fromFraction<D>(t.z);
+    const Triple<R> t =
+        pixel(Triple<R>{fractionOf<R>(from.a[i]), fractionOf<R>(from.b[i]), fractionOf<R>(from.c[i])});
+    a[i] = fromFraction<D>(static_cast<float>(t.x));
+    b[i] = fromFraction<D>(static_cast<float>(t.y));
+    c[i] = fromFraction<D>(static_cast<float>(t.z));
   }
 }
 
@@ -135,22 +179,22 @@ void eachPixel(const TileRows& in, const TileRows& out, int n, Pixel pixel) {
 
 template <class T>
 void rgbToLuv(const TileRows& in, const TileRows& out, int n, const Matrix&) {
-  eachPixel<T, T>(in, out, n, [](Triple rgb) { return coded<T>(luvOf(rgb), kLuvScale); });
+  eachPixel<T, T>(in, out, n, [](auto rgb) { return coded<T>(luvOf(rgb), kLuvScale); });
 }
 
 template <class T>
-void luvToRgb(const TileRows& in, const TileRows& out, int n, const Matrix& toRgb) {
-  eachPixel<T, T>(in, out, n, [&](Triple luv) { return rgbOfLuv(plain<T>(luv, kLuvScale), toRgb); });
+void luvToRgb(const TileRows& in, const TileRows& out, int n, const Matrix&) {
+  eachPixel<T, T>(in, out, n, [](auto luv) { return rgbOfLuv(plain<T>(luv, kLuvScale)); });
 }
 
 template <class S, class D>
 void rgbToLab(const TileRows& in, const TileRows& out, int n, const Matrix&) {
-  eachPixel<S, D>(in, out, n, [](Triple rgb) { return coded<D>(labOf(rgb), kLabScale); });
+  eachPixel<S, D>(in, out, n, [](auto rgb) { return coded<D>(labOf(rgb), kLabScale); });
 }
 
 template <class S, class D>
-void labToRgb(const TileRows& in, const TileRows& out, int n, const Matrix& toRgb) {
-  eachPixel<S, D>(in, out, n, [&](Triple lab) { return rgbOfLab(plain<S>(lab, kLabScale), toRgb); });
+void labToRgb(const TileRows& in, const TileRows& out, int n, const Matrix&) {
+  eachPixel<S, D>(in, out, n, [](auto lab) { return rgbOfLab(plain<S>(lab, kLabScale)); });
 }
 
 }  // namespace qor

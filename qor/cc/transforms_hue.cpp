@@ -98,7 +98,9 @@ void rgbToHls(const TileRows& in, const TileRows& out, int n, const Matrix&) {
   constexpr float span = Range<T>::span;
   eachPixelInSteps<T>(in, out, n, [](Floats r, Floats g, Floats b) {
     const Hue h = hueOf(r, g, b, span);
-    const Floats sum = h.most + h.least, room = smaller(sum, 2 * span - sum);
+    // Near white floats would lose the room in a difference of nearly equal sums.
+    const Floats sum = h.most + h.least;
+    const Floats room = smaller(sum, span == 1 ? (span - h.most) + (span - h.least) : 2 * span - sum);
     return Channels{h.turns, sum * 0.5f, h.spread * span / larger(room, all(kTiny))};
   });
 }
