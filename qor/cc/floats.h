@@ -120,6 +120,18 @@ inline void storeFour(Qor8u* p, const Floats (&v)[4]) {
   store(p, narrow(whole[0], whole[1], whole[2], whole[3]));
 }
 
+// Words of two vectors, to nearest, half up, saturated.
+template <class T>
+inline void storeTwo(T* p, Floats first, Floats second) {
+  static_assert(sizeof(T) == 2);
+  const auto signedWords = [](Floats v) {
+    const Floats clamped = atMost(atLeast(v - Range<T>::low, 0), Range<T>::span);
+    return reinterpret_cast<Vec>(__builtin_convertvector(clamped + 0.5f, Ints) - 32768);
+  };
+  const Vec words = inMemoryOrder(pack32(signedWords(first), signedWords(second)));
+  store(p, Range<T>::low == 0 ? bitXor(words, all16(0x8000)) : words);
+}
+
 inline Floats magnitude(Floats v) {
   return reinterpret_cast<Floats>(reinterpret_cast<Ints>(v) & 0x7fffffff);
 }

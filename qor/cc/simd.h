@@ -164,16 +164,20 @@ inline Vec widen(const uint8_t* p) {
 #endif
 }
 
+// What packing two vectors leaves in lanes.
+inline Vec inMemoryOrder(Vec packed) {
+#if defined(__AVX512VBMI__)
+  return _mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), packed);
+#elif defined(__AVX2__)
+  return _mm256_permute4x64_epi64(packed, 0xD8);
+#else
+  return packed;
+#endif
+}
+
 // Words of 0..255, kVec of them, to bytes.
 inline Vec narrow(Vec a, Vec b) {
-#if defined(__AVX512VBMI__)
-  const Vec order = _mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7);
-  return _mm512_permutexvar_epi64(order, pack16(a, b));
-#elif defined(__AVX2__)
-  return _mm256_permute4x64_epi64(pack16(a, b), 0xD8);
-#else
-  return pack16(a, b);
-#endif
+  return inMemoryOrder(pack16(a, b));
 }
 
 // Double words of 0..255, kVec of them, to bytes.

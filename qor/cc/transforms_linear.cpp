@@ -1,7 +1,7 @@
 // transforms_linear.cpp: a matrix and an offset, gray, gamma before a matrix, tone.
 #include <math.h>
 
-#include "ranges.h"
+#include "floats.h"
 #include "tables.h"
 #include "transforms.h"
 
@@ -18,6 +18,44 @@ void multiply(const TileRows& in, const TileRows& out, int n, const Matrix& matr
     T* __restrict o = reinterpret_cast<T*>(out.plane[row]);
     for (int i = 0; i < n; ++i)
       o[i] = element<T>(ma * of(s.a[i]) + mb * of(s.b[i]) + mc * of(s.c[i]) + offset);
+  }
+}
+
+struct Colours {
+  Floats a, b, c;
+};
+
+// The weights of one row.
+struct RowWeights {
+  Floats a, b, c, offset;
+
+  RowWeights(const Matrix& m, int row)
+      : a(all(m.m[row][0])), b(all(m.m[row][1])), c(all(m.m[row][2])), offset(all(m.offset[row])) {}
+
+  Floats sum(const Colours& v) const { return a * v.a + b * v.b + c * v.c + offset; }
+};
+
+// As multiply, with vectors; tile rows have room for whole ones.
+template <class T>
+void multiplyVectors(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
+  const Planes<const T> s(in);
+  const Planes<T> o(out);
+  const RowWeights rows[3] = {RowWeights(matrix, 0), RowWeights(matrix, 1), RowWeights(matrix, 2)};
+  const auto colours = [&](int i) {
+    return Colours{loadFloats(s.a + i), loadFloats(s.b + i), loadFloats(s.c + i)};
+  };
+  for (int i = 0; i < n; i += kVec / int{sizeof(T)}) {
+    const Colours first = colours(i);
+    if constexpr (sizeof(T) == 2) {
+      const Colours second = colours(i + kFloats);
+      storeTwo(o.a + i, rows[0].sum(first), rows[0].sum(second));
+      storeTwo(o.b + i, rows[1].sum(first), rows[1].sum(second));
+      storeTwo(o.c + i, rows[2].sum(first), rows[2].sum(second));
+    } else {
+      storeElements(o.a + i, rows[0].sum(first));
+      storeElements(o.b + i, rows[1].sum(first));
+      storeElements(o.c + i, rows[2].sum(first));
+    }
   }
 }
 
@@ -52,7 +90,10 @@ Matrix tone(float scale, float offset) {
 
 template <class T>
 void applyMatrix(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
-  multiply<T>(in, out, n, matrix, [](T v) { return static_cast<float>(v); });
+  if constexpr (sizeof(T) == 1)
+    return multiply<T>(in, out, n, matrix, [](T v) { return static_cast<float>(v); });
+  else
+    multiplyVectors<T>(in, out, n, matrix);
 }
 
 void applyTwist4(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
