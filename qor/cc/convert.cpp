@@ -76,9 +76,10 @@ int sizeIndex(int elementSize) {
 }
 
 // Chroma that two pixels of a row share is worked on as it is, if the matrix allows.
-enum class Chroma { full, fromHalf, toHalf };
+enum class Chroma { full, fromHalf, toHalf, none };
 
 Chroma chromaOf(const Function& f, const Matrix& matrix) {
+  if (f.transform.apply == applyLuma) return Chroma::none;
   if (f.transform.apply != applyFixed) return Chroma::full;
   if (f.source.half && matrix.fromHalf.isKnown) return Chroma::fromHalf;
   return f.target.half && matrix.luma.isKnown && matrix.toHalf.isKnown ? Chroma::toHalf : Chroma::full;
@@ -123,6 +124,7 @@ class Run {
   // Rows that are stored together.
   void group(const Place& at) {
     for (int r = 0; r < at.rows; ++r) row({at.x, at.y + r, at.n, 1, at.height}, r);
+    if (chroma_ == Chroma::none) return;
     if (chroma_ != Chroma::toHalf) return store_(target_, at, out_.rows(f_.targetOrder));
     LineSet lines;
     for (int c = 0; (lines = f_.target.half->lines(c, at.rows)).count != 0; ++c)
@@ -135,14 +137,20 @@ class Run {
     const TileRows out = rowOf(out_, kOrder_abc, r);
     if (!f_.transform.apply) return load_(source_, at, rowOf(out_, f_.sourceOrder, r));
     if (chroma_ == Chroma::fromHalf) return rowFromHalf(at, out);
-    if (chroma_ == Chroma::toHalf) {
+    if (chroma_ == Chroma::toHalf || chroma_ == Chroma::none) {
       load_(source_, at, rowOf(in_, f_.sourceOrder, r));
-      return applyLuma(rowOf(in_, kOrder_abc, r), out, at.n, matrix_);
+      return applyLuma(rowOf(in_, kOrder_abc, r), lumaRows(at, out), at.n, matrix_);
     }
     const TileRows in = planesOf(at);
     // First, since a transform of four channels writes alpha anew.
     if (keepsAlpha_) __builtin_memcpy(out.plane[3], in.plane[3], at.n * f_.targetSize);
     f_.transform.apply(in, out, at.n, matrix_);
+  }
+
+  // Luma goes to where it stays, unless other bytes lie between.
+  TileRows lumaRows(const Place& at, TileRows out) const {
+    if (!f_.target.half || !f_.target.half->isPacked) out.plane[0] = target_.row(0, at.y) + at.x;
+    return out;
   }
 
   // The source's own planes where transforms, which work on whole vectors, stay inside.

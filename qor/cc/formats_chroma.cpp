@@ -234,7 +234,6 @@ void loadHalf(const Source& s, const Place& at, const TileRows& out) {
 
 template <Lines lines, int stride>
 void storeHalf(const Target& d, const Place& at, const TileRows& in) {
-  for (int r = 0; r < at.rows; ++r) __builtin_memcpy(d.row(0, at.y + r) + at.x, in.row(0, r), at.n);
   const int firstLine = chromaLine(lines, at.y, at.height), n = samples(at.n, 1);
   for (int c = 0; linesOf(lines, c, at.rows).count != 0; ++c) {
     if (stride == 2) {

@@ -117,6 +117,14 @@ inline Vec multiplyBytes(Vec a, Vec b) {
   return add16(multiply16(bitAnd(a, all16(0xFF)), evenB), multiply16(shiftRight16<8>(a), oddB));
 #endif
 }
+// Sums of neighbouring bytes, in words.
+inline Vec sumsOfPairs(Vec bytes) {
+#if defined(__SSSE3__)
+  return multiplyBytes(bytes, all8(1));
+#else
+  return add16(bitAnd(bytes, all16(0xFF)), shiftRight16<8>(bytes));
+#endif
+}
 // The upper words of the double words: those of `even` in even places.
 inline Vec upperWords(Vec even, Vec odd) {
 #if defined(__AVX512VBMI__)

@@ -64,6 +64,7 @@ void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix& ma
   f.twice == 1 ? multiplyFixed<14, 1, false>(in, out, n, f) : multiplyFixed<14, 2, false>(in, out, n, f);
 }
 
+// Writes no byte more than n.
 void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
   const Luma& f = matrix.luma;
   const uint8_t *pa = in.plane[0], *pb = in.plane[1], *pc = in.plane[2];
@@ -82,7 +83,14 @@ void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix& mat
   for (int i = 0; i < n; i += kVec) {
     const Vec a = bitXor(load(pa + i), middle), b = bitXor(load(pb + i), middle),
               c = bitXor(load(pc + i), middle);
-    store(to + i, pack16(words(low8(a, b), low8(c, b)), words(high8(a, b), high8(c, b))));
+    const Vec bytes = pack16(words(low8(a, b), low8(c, b)), words(high8(a, b), high8(c, b)));
+    if (n - i >= kVec) {
+      store(to + i, bytes);
+    } else {
+      uint8_t rest[kVec];
+      store(rest, bytes);
+      __builtin_memcpy(to + i, rest, n - i);
+    }
   }
 }
 

@@ -124,12 +124,8 @@ namespace {
 
 // Sums of four samples, kVec / 2 of them.
 inline Vec sumsOfFour(const uint8_t* row, int rows, int apart) {
-  const auto pairs = [](const uint8_t* p) {
-    const Vec v = load(p);
-    return add16(bitAnd(v, all16(0xFF)), shiftRight16<8>(v));
-  };
-  const Vec first = pairs(row);
-  return add16(first, rows == 1 ? first : pairs(row + apart));
+  const Vec first = sumsOfPairs(load(row));
+  return add16(first, rows == 1 ? first : sumsOfPairs(load(row + apart)));
 }
 
 }  // namespace
