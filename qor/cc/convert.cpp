@@ -137,14 +137,20 @@ class Run {
     const TileRows out = rowOf(out_, kOrder_abc, r);
     if (!f_.transform.apply) return load_(source_, at, rowOf(out_, f_.sourceOrder, r));
     if (chroma_ == Chroma::fromHalf) return rowFromHalf(at, out);
-    if (chroma_ == Chroma::toHalf || chroma_ == Chroma::none) {
-      load_(source_, at, rowOf(in_, f_.sourceOrder, r));
-      return applyLuma(rowOf(in_, kOrder_abc, r), lumaRows(at, out), at.n, matrix_);
-    }
+    if (chroma_ == Chroma::toHalf || chroma_ == Chroma::none) return rowOfLuma(at, r, out);
     const TileRows in = planesOf(at);
     // First, since a transform of four channels writes alpha anew.
     if (keepsAlpha_) __builtin_memcpy(out.plane[3], in.plane[3], at.n * f_.targetSize);
     f_.transform.apply(in, out, at.n, matrix_);
+  }
+
+  void rowOfLuma(const Place& at, int r, const TileRows& out) {
+    const TileRows in = rowOf(in_, kOrder_abc, r), luma = lumaRows(at, out);
+    if (&f_.source == &kC3)
+      return lumaOfThree(source_.row(0, at.y) + ptrdiff_t{3} * at.x, f_.sourceOrder[0] != 0, at.n,
+                         chroma_ == Chroma::none ? nullptr : &in, luma.plane[0], matrix_.luma);
+    load_(source_, at, rowOf(in_, f_.sourceOrder, r));
+    applyLuma(in, luma, at.n, matrix_);
   }
 
   // Luma goes to where it stays, unless other bytes lie between.

@@ -68,7 +68,11 @@ struct Transform {
 template <class T>
 void applyMatrix(const TileRows& in, const TileRows& out, int n, const Matrix&);
 void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix&);  // bytes
-void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix&);   // bytes, row 0 only
+// Bytes, row 0 only; writes none behind the last.
+void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix&);
+// The same of n packed pixels of three bytes, a last if swapped; they go to the planes
+// if there are any.
+void lumaOfThree(const uint8_t* in, bool swapped, int n, const TileRows* planes, uint8_t* luma, const Luma&);
 
 // transforms_half.cpp: what a chroma line adds to the channels of the pixels above it,
 // by which all its rows are made.

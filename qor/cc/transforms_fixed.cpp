@@ -64,34 +64,74 @@ void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix& ma
   f.twice == 1 ? multiplyFixed<14, 1, false>(in, out, n, f) : multiplyFixed<14, 2, false>(in, out, n, f);
 }
 
-// Writes no byte more than n.
-void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
-  const Luma& f = matrix.luma;
-  const uint8_t *pa = in.plane[0], *pb = in.plane[1], *pc = in.plane[2];
-  uint8_t* to = out.plane[0];
-  const auto bytePairs = [](const uint8_t* of, int first, int second) {
-    return all16(of[first] | (second < 0 ? 0 : of[second]) << 8);
-  };
-  const Vec highAB = bytePairs(f.high, 0, 1), highC = bytePairs(f.high, 2, -1),
-            lowAB = bytePairs(f.low, 0, 1), lowC = bytePairs(f.low, 2, -1), offset = all16(f.offset),
-            middle = all8(128);
-  const auto words = [&](Vec ab, Vec cb) {
+namespace {
+
+struct LumaWeights {
+  Vec highAB, highC, lowAB, lowC, offset;
+
+  explicit LumaWeights(const Luma& f)
+      : highAB(all16(f.high[0] | f.high[1] << 8)),
+        highC(all16(f.high[2])),
+        lowAB(all16(f.low[0] | f.low[1] << 8)),
+        lowC(all16(f.low[2])),
+        offset(all16(f.offset)) {}
+
+  Vec words(Vec ab, Vec cb) const {
     const Vec high = add16(multiplyBytes(highAB, ab), multiplyBytes(highC, cb));
     const Vec low = add16(multiplyBytes(lowAB, ab), multiplyBytes(lowC, cb));
     return shiftRight16<8>(add16(add16(high, offset), shiftRightSigned16<7>(low)));
-  };
-  for (int i = 0; i < n; i += kVec) {
-    const Vec a = bitXor(load(pa + i), middle), b = bitXor(load(pb + i), middle),
-              c = bitXor(load(pc + i), middle);
-    const Vec bytes = pack16(words(low8(a, b), low8(c, b)), words(high8(a, b), high8(c, b)));
-    if (n - i >= kVec) {
-      store(to + i, bytes);
-    } else {
-      uint8_t rest[kVec];
-      store(rest, bytes);
-      __builtin_memcpy(to + i, rest, n - i);
-    }
   }
+
+  Vec bytes(const Vec3& v) const {
+    const Vec middle = all8(128);
+    const Vec a = bitXor(v.a, middle), b = bitXor(v.b, middle), c = bitXor(v.c, middle);
+    return pack16(words(low8(a, b), low8(c, b)), words(high8(a, b), high8(c, b)));
+  }
+};
+
+inline void storeUpTo(uint8_t* to, Vec bytes, int n) {
+  if (n >= kVec) return store(to, bytes);
+  uint8_t rest[kVec];
+  store(rest, bytes);
+  __builtin_memcpy(to, rest, n);
+}
+
+template <bool swapped, bool keep>
+void lumaOfPixels(const uint8_t* in, int n, const TileRows& planes, uint8_t* luma, const LumaWeights& w) {
+  uint8_t *toA = planes.plane[0], *toB = planes.plane[1], *toC = planes.plane[2], rest[3 * kVec];
+  for (int i = 0; i < n; i += kVec) {
+    const uint8_t* from = in + 3 * i;
+    if (n - i < kVec) from = static_cast<const uint8_t*>(__builtin_memcpy(rest, from, 3 * (n - i)));
+    Vec3 v = load3<1>(from);
+    if (swapped) v = {v.c, v.b, v.a};
+    if (keep) {
+      store(toA + i, v.a);
+      store(toB + i, v.b);
+      store(toC + i, v.c);
+    }
+    storeUpTo(luma + i, w.bytes(v), n - i);
+  }
+}
+
+}  // namespace
+
+void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
+  const uint8_t *a = in.plane[0], *b = in.plane[1], *c = in.plane[2];
+  uint8_t* to = out.plane[0];
+  const LumaWeights weights(matrix.luma);
+  for (int i = 0; i < n; i += kVec)
+    storeUpTo(to + i, weights.bytes({load(a + i), load(b + i), load(c + i)}), n - i);
+}
+
+void lumaOfThree(const uint8_t* in, bool swapped, int n, const TileRows* planes, uint8_t* luma,
+                 const Luma& f) {
+  const LumaWeights w(f);
+  const TileRows kept = planes ? *planes : TileRows{};
+  if (planes)
+    return swapped ? lumaOfPixels<true, true>(in, n, kept, luma, w)
+                   : lumaOfPixels<false, true>(in, n, kept, luma, w);
+  swapped ? lumaOfPixels<true, false>(in, n, kept, luma, w)
+          : lumaOfPixels<false, false>(in, n, kept, luma, w);
 }
 
 }  // namespace qor
