@@ -98,6 +98,8 @@ class Run {
         pixels_(kTileBytes / (f.sourceSize > f.targetSize ? f.sourceSize : f.targetSize)),
         keepsAlpha_(f.source.channels == 4 && f.target.channels == 4),
         chroma_(chromaOf(f, matrix)),
+        packs_(f.transform.apply == applyFixed && chroma_ != Chroma::toHalf && !keepsAlpha_ &&
+               (&f.target == &kC3 || &f.target == &kC4)),
         groupRows_(chroma_ == Chroma::fromHalf && f.source.groupRows > f.target.groupRows
                        ? f.source.groupRows
                        : f.target.groupRows) {}
@@ -124,7 +126,7 @@ class Run {
   // Rows that are stored together.
   void group(const Place& at) {
     for (int r = 0; r < at.rows; ++r) row({at.x, at.y + r, at.n, 1, at.height}, r);
-    if (chroma_ == Chroma::none) return;
+    if (chroma_ == Chroma::none || packs_) return;
     if (chroma_ != Chroma::toHalf) return store_(target_, at, out_.rows(f_.targetOrder));
     LineSet lines;
     for (int c = 0; (lines = f_.target.half->lines(c, at.rows)).count != 0; ++c)
@@ -139,6 +141,7 @@ class Run {
     if (chroma_ == Chroma::fromHalf) return rowFromHalf(at, out);
     if (chroma_ == Chroma::toHalf || chroma_ == Chroma::none) return rowOfLuma(at, r, out);
     const TileRows in = planesOf(at);
+    if (packs_) return multiplyFixed(in, bytesOut(at, out), at.n, matrix_);
     // First, since a transform of four channels writes alpha anew.
     if (keepsAlpha_) __builtin_memcpy(out.plane[3], in.plane[3], at.n * f_.targetSize);
     f_.transform.apply(in, out, at.n, matrix_);
@@ -157,6 +160,17 @@ class Run {
   TileRows lumaRows(const Place& at, TileRows out) const {
     if (!f_.target.half || !f_.target.half->isPacked) out.plane[0] = target_.row(0, at.y) + at.x;
     return out;
+  }
+
+  // Packed pixels are made at once.
+  BytesOut bytesOut(const Place& at, const TileRows& out) const {
+    BytesOut to = {{out.plane[0], out.plane[1], out.plane[2]}};
+    if (!packs_) return to;
+    to.stride = f_.target.perPixel;
+    to.pixels = target_.row(0, at.y) + ptrdiff_t{to.stride} * at.x;
+    to.swapped = f_.targetOrder[0] != 0;
+    to.alpha = out_.bytes[3][0][0];
+    return to;
   }
 
   // The source's own planes where transforms, which work on whole vectors, stay inside.
@@ -190,7 +204,7 @@ class Run {
                     terms_[k]);
       held_[k] = {line, at.x};
     }
-    applyTerms(source_.row(0, at.y) + at.x, terms_[k], out, at.n, matrix_.fromHalf);
+    applyTerms(source_.row(0, at.y) + at.x, terms_[k], bytesOut(at, out), at.n, matrix_.fromHalf);
   }
 
   void rowFromPacked(const Place& at, const TileRows& out) {
@@ -199,7 +213,7 @@ class Run {
     // Behind an odd last pixel the other half of its pair lies beyond the row: that of
     // the pair before.
     const uint8_t lastChroma = at.x + at.n > 1 ? in[second] : kNeutralChroma;
-    applyPacked(in, lumaAt, pairOrder() == ChromaOrder::swappedPairs, lastChroma, out, at.n,
+    applyPacked(in, lumaAt, pairOrder() == ChromaOrder::swappedPairs, lastChroma, bytesOut(at, out), at.n,
                 matrix_.fromHalf);
   }
 
@@ -226,6 +240,7 @@ class Run {
   const int pixels_;       // of a tile
   const bool keepsAlpha_;  // from the source; otherwise it is the caller's, if written at all
   const Chroma chroma_;
+  const bool packs_;  // the transform does what the store would
   const int groupRows_;
   Tile in_, out_;
   HeldLine held_[2];

@@ -50,6 +50,16 @@ struct Matrix {
   FromHalf fromHalf = {};
 };
 
+// Where three channels of bytes go: to the planes of a tile, or at once to packed pixels
+// of 3 or 4 bytes, of which no byte behind the last is written.
+struct BytesOut {
+  uint8_t* plane[3];
+  uint8_t* pixels = nullptr;  // null: to the planes
+  int stride = 3;
+  bool swapped = false;  // channel c first
+  uint8_t alpha = 0;     // of pixels of 4
+};
+
 // One row of n pixels from the planes `in` to the planes `out`, both of a tile.
 using Apply = void (*)(const TileRows& in, const TileRows& out, int n, const Matrix&);
 
@@ -67,7 +77,9 @@ struct Transform {
 // transforms_linear.cpp
 template <class T>
 void applyMatrix(const TileRows& in, const TileRows& out, int n, const Matrix&);
-void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix&);  // bytes
+// Bytes.
+void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix&);
+void multiplyFixed(const TileRows& in, const BytesOut&, int n, const Matrix&);
 // Bytes, row 0 only; writes none behind the last.
 void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix&);
 // The same of n packed pixels of three bytes, a last if swapped; they go to the planes
@@ -84,10 +96,10 @@ struct ChromaTerms {
 enum class ChromaOrder { planes, pairs, swappedPairs };
 void termsOfChroma(const TileRows& in, ChromaOrder, int n, const FromHalf&, ChromaTerms&);
 // n pixels of the given luma, of which no byte more is read.
-void applyTerms(const uint8_t* luma, const ChromaTerms&, const TileRows& out, int n, const FromHalf&);
+void applyTerms(const uint8_t* luma, const ChromaTerms&, const BytesOut&, int n, const FromHalf&);
 // n pixels of packed 4:2:2: luma at every second byte from `lumaAt`. An odd last pixel
 // has the second chroma byte that is given.
-void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma, const TileRows& out, int n,
+void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma, const BytesOut&, int n,
                  const FromHalf&);
 // Chroma of n pixels in one or two rows of a tile, `apart` bytes from each other, to
 // (n + 1) / 2 samples in the planes b and c. The pixel behind an odd last one is

@@ -2,6 +2,7 @@
 //
 // Results differ from the rounded formula by at most one, and seldom:
 // docs/library.md has the figures.
+#include "bytesout.h"
 #include "simd.h"
 #include "transforms.h"
 
@@ -40,28 +41,31 @@ struct Row {
 
 // Tile rows have room for a whole vector behind their last pixel.
 template <int shift, int twice, bool firstOnly>
-void multiplyFixed(const TileRows& in, const TileRows& out, int n, const Fixed& f) {
+void multiply(const TileRows& in, const BytesOut& out, int n, const Fixed& f) {
   const uint8_t *pa = in.plane[0], *pb = in.plane[1], *pc = in.plane[2];
   const Row row0(f, 0), row1(f, 1), row2(f, 2);
-  uint8_t *to0 = out.plane[0], *to1 = out.plane[1], *to2 = out.plane[2];
   for (int i = 0; i < n; i += kVec) {
     const Vec a = load(pa + i), b = load(pb + i), c = load(pc + i);
     const Pairs ac(a, c), bd(b, twice == 0 ? a : twice == 1 ? b : c);
-    store(to0 + i, row0.bytes<shift, firstOnly>(ac, bd));
-    store(to1 + i, row1.bytes<shift, false>(ac, bd));
-    store(to2 + i, row2.bytes<shift, false>(ac, bd));
+    put(out, i, n,
+        {row0.bytes<shift, firstOnly>(ac, bd), row1.bytes<shift, false>(ac, bd),
+         row2.bytes<shift, false>(ac, bd)});
   }
 }
 
 }  // namespace
 
 void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
+  multiplyFixed(in, toPlanes(out), n, matrix);
+}
+
+void multiplyFixed(const TileRows& in, const BytesOut& out, int n, const Matrix& matrix) {
   const Fixed& f = matrix.fixed;
-  if (f.shift == 15) return multiplyFixed<15, 2, false>(in, out, n, f);  // no factor needs two shares
-  if (f.twice == 0) return multiplyFixed<14, 0, false>(in, out, n, f);
+  if (f.shift == 15) return multiply<15, 2, false>(in, out, n, f);  // no factor needs two shares
+  if (f.twice == 0) return multiply<14, 0, false>(in, out, n, f);
   // Luma and chroma to channels, of which the first knows no Cb.
-  if (f.twice == 1 && f.m[0][1] == 0 && f.m[0][3] == 0) return multiplyFixed<14, 1, true>(in, out, n, f);
-  f.twice == 1 ? multiplyFixed<14, 1, false>(in, out, n, f) : multiplyFixed<14, 2, false>(in, out, n, f);
+  if (f.twice == 1 && f.m[0][1] == 0 && f.m[0][3] == 0) return multiply<14, 1, true>(in, out, n, f);
+  f.twice == 1 ? multiply<14, 1, false>(in, out, n, f) : multiply<14, 2, false>(in, out, n, f);
 }
 
 namespace {

@@ -2,6 +2,7 @@
 //
 // Two neighbours share a chroma sample, so its terms are double words that are added
 // to the even and to the odd pixels alike, without being spread.
+#include "bytesout.h"
 #include "simd.h"
 #include "transforms.h"
 
@@ -75,9 +76,8 @@ void termsOfChroma(const TileRows& in, ChromaOrder order, int n, const FromHalf&
   }
 }
 
-void applyTerms(const uint8_t* luma, const ChromaTerms& terms, const TileRows& out, int n,
+void applyTerms(const uint8_t* luma, const ChromaTerms& terms, const BytesOut& out, int n,
                 const FromHalf& f) {
-  uint8_t *to0 = out.plane[0], *to1 = out.plane[1], *to2 = out.plane[2];
   const LumaFactors factors(f);
   uint8_t rest[kVec];
   for (int i = 0; i < n; i += kVec) {
@@ -87,15 +87,12 @@ void applyTerms(const uint8_t* luma, const ChromaTerms& terms, const TileRows& o
     const auto chroma = [&](int c) {
       return Halves{load(terms.of[c] + i / 2), load(terms.of[c] + i / 2 + kVec / 4)};
     };
-    store(to0 + i, bright.bytes(chroma(0)));
-    store(to1 + i, bright.bytes(chroma(1)));
-    store(to2 + i, bright.bytes(chroma(2)));
+    put(out, i, n, {bright.bytes(chroma(0)), bright.bytes(chroma(1)), bright.bytes(chroma(2))});
   }
 }
 
-void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma, const TileRows& out, int n,
+void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma, const BytesOut& out, int n,
                  const FromHalf& f) {
-  uint8_t *to0 = out.plane[0], *to1 = out.plane[1], *to2 = out.plane[2];
   const ChromaFactors colour(f, swapped);
   const LumaFactors brightness(f);
   uint8_t rest[2 * kVec];
@@ -114,9 +111,7 @@ void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma
     const auto chroma = [&](int c) {
       return Halves{colour.term(c, pairs.first), colour.term(c, pairs.second)};
     };
-    store(to0 + i, bright.bytes(chroma(0)));
-    store(to1 + i, bright.bytes(chroma(1)));
-    store(to2 + i, bright.bytes(chroma(2)));
+    put(out, i, n, {bright.bytes(chroma(0)), bright.bytes(chroma(1)), bright.bytes(chroma(2))});
   }
 }
 
