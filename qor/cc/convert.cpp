@@ -275,8 +275,11 @@ struct Job {
 // Where chroma of the same resolution moves only from one place to another.
 Copy directCopy(const Function& f) {
   if (f.transform.apply) return nullptr;
+  const ChromaMove chroma = f.sourceOrder[1] == f.targetOrder[1] ? ChromaMove::kept : ChromaMove::swapped;
   for (const DirectCopy& row : kDirectCopies)
-    if (&f.source == row.source && &f.target == row.target) return row.copy;
+    if (&f.source == row.source && &f.target == row.target &&
+        (row.chroma == ChromaMove::any || row.chroma == chroma))
+      return row.copy;
   return nullptr;
 }
 

@@ -88,12 +88,60 @@ void splitYuyv(const Move& m, const Share& rows) {
                  m.target.row(to.second, y));
 }
 
+// Each two bytes change places.
+void swapBytes(const Move& m, const Share& rows) {
+  for (int y = rows.first; y < rows.last; ++y) {
+    const uint8_t* in = m.source.row(0, y);
+    uint8_t* out = m.target.row(0, y);
+    const ptrdiff_t bytes = ptrdiff_t{2} * m.size.width;
+    ptrdiff_t i = 0;
+    for (; i + kVec <= bytes; i += kVec) {
+      const Vec v = load(in + i);
+      store(out + i, bitOr(shiftLeft16<8>(v), shiftRight16<8>(v)));
+    }
+    for (; i < bytes; i += 2) {
+      const uint8_t first = in[i];
+      out[i] = in[i + 1];
+      out[i + 1] = first;
+    }
+  }
+}
+
+// Cb and Cr change places between Y0 and Y1. An odd last pixel has the first of them
+// only: it gets that of the pair before for the other.
+void swapChroma(const Move& m, const Share& rows) {
+  for (int y = rows.first; y < rows.last; ++y) {
+    const uint8_t* in = m.source.row(0, y);
+    uint8_t* out = m.target.row(0, y);
+    const ptrdiff_t bytes = ptrdiff_t{4} * (m.size.width / 2);
+    const uint8_t lastChroma = bytes > 0 ? in[bytes - 1] : kNeutralChroma;
+    ptrdiff_t i = 0;
+    for (; i + kVec <= bytes; i += kVec) {
+      const Vec v = load(in + i), chroma = shiftRight16<8>(v);
+      store(out + i, bitOr(bitAnd(v, all16(0xFF)), bitOr(shiftLeft32<24>(chroma), shiftRight32<8>(chroma))));
+    }
+    for (; i < bytes; i += 4) {
+      const uint8_t first = in[i + 1];
+      out[i] = in[i];
+      out[i + 1] = in[i + 3];
+      out[i + 2] = in[i + 2];
+      out[i + 3] = first;
+    }
+    if (m.size.width % 2 == 0) continue;
+    out[bytes] = in[bytes];
+    out[bytes + 1] = lastChroma;
+  }
+}
+
 }  // namespace
 
 const DirectCopy kDirectCopies[] = {
-    {&kP2x420, &kP3x420, splitPairs420},
-    {&kP3x420, &kP2x420, mergePairs420},
-    {&kYuyv, &kP3x422, splitYuyv},
+    {&kP2x420, &kP3x420, ChromaMove::any, splitPairs420},
+    {&kP3x420, &kP2x420, ChromaMove::any, mergePairs420},
+    {&kYuyv, &kP3x422, ChromaMove::any, splitYuyv},
+    {&kYuyv, &kUyvy, ChromaMove::kept, swapBytes},
+    {&kUyvy, &kYuyv, ChromaMove::kept, swapBytes},
+    {&kYuyv, &kYuyv, ChromaMove::swapped, swapChroma},
 };
 
 }  // namespace qor

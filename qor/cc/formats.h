@@ -69,11 +69,15 @@ struct Move {
 };
 using Copy = void (*)(const Move&, const Share& rows);
 
+// Whether Cb and Cr keep their order.
+enum class ChromaMove { any, kept, swapped };
+
 struct DirectCopy {
   const Format *source, *target;
+  ChromaMove chroma;  // that it is for
   Copy copy;
 };
-extern const DirectCopy kDirectCopies[3];
+extern const DirectCopy kDirectCopies[6];
 
 extern const Format kC1, kC3, kAC4, kC4, kP3, kP4;
 extern const Format kRgb565, kRgb555, kRgb444, kRgb565Dither, kRgb555Dither, kRgb444Dither;
