@@ -45,9 +45,12 @@ struct LumaFactors {
       : times(all16(f.timesLuma)), ofEven(allPairs(f.luma, 0)), ofOdd(allPairs(0, f.luma)) {}
 
   LumaTerms terms(const Halves& words) const {
-    const Vec first = multiply16(words.first, times), second = multiply16(words.second, times);
-    return {multiplyPairs(first, ofEven), multiplyPairs(first, ofOdd), multiplyPairs(second, ofEven),
-            multiplyPairs(second, ofOdd)};
+    return ofProducts({multiply16(words.first, times), multiply16(words.second, times)});
+  }
+  // Of words that are multiplied already.
+  LumaTerms ofProducts(const Halves& words) const {
+    return {multiplyPairs(words.first, ofEven), multiplyPairs(words.first, ofOdd),
+            multiplyPairs(words.second, ofEven), multiplyPairs(words.second, ofOdd)};
   }
 };
 
@@ -95,6 +98,11 @@ void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma
                  const FromHalf& f) {
   const ChromaFactors colour(f, swapped);
   const LumaFactors brightness(f);
+  // The products of the bytes of two pixels, of which one of each word counts.
+  const int chromaShift = 8 * (1 - lumaAt), lumaShift = 8 * lumaAt;
+  const Vec ofLuma = allPairs(f.timesLuma << lumaShift, f.timesLuma << lumaShift);
+  const Vec ofChroma =
+      allPairs(f.timesChroma[swapped] << chromaShift, f.timesChroma[!swapped] << chromaShift);
   uint8_t rest[2 * kVec];
   for (int i = 0; i < n; i += kVec) {
     const uint8_t* from = in + 2 * i;
@@ -103,11 +111,9 @@ void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma
       rest[2 * (n - i) + 1 - lumaAt] = lastChroma;
     }
     const Halves both = loadAlternateLanes(from);
-    const auto words = [](Vec v, bool upper) { return upper ? shiftRight16<8>(v) : bitAnd(v, all16(0xFF)); };
     const LumaTerms bright =
-        brightness.terms({words(both.first, lumaAt == 1), words(both.second, lumaAt == 1)});
-    const Halves pairs = {multiply16(words(both.first, lumaAt == 0), colour.times),
-                          multiply16(words(both.second, lumaAt == 0), colour.times)};
+        brightness.ofProducts({multiplyBytes(both.first, ofLuma), multiplyBytes(both.second, ofLuma)});
+    const Halves pairs = {multiplyBytes(both.first, ofChroma), multiplyBytes(both.second, ofChroma)};
     const auto chroma = [&](int c) {
       return Halves{colour.term(c, pairs.first), colour.term(c, pairs.second)};
     };
