@@ -2,6 +2,7 @@
 
 #include "defaultfloats.h"
 #include "qorcc.h"
+#include "simd.h"
 
 namespace qor {
 namespace {
@@ -76,10 +77,11 @@ int sizeIndex(int elementSize) {
 }
 
 // Chroma that two pixels of a row share is worked on as it is, if the matrix allows.
-enum class Chroma { full, fromHalf, toHalf, none };
+enum class Chroma { full, fromHalf, toHalf, halfToHalf, none };
 
 Chroma chromaOf(const Function& f, const Matrix& matrix) {
   if (f.transform.apply == applyLuma) return Chroma::none;
+  if (!f.transform.apply && f.source.half && f.target.half) return Chroma::halfToHalf;
   if (f.transform.apply != applyFixed) return Chroma::full;
   if (f.source.half && matrix.fromHalf.isKnown) return Chroma::fromHalf;
   return f.target.half && matrix.luma.isKnown && matrix.toHalf.isKnown ? Chroma::toHalf : Chroma::full;
@@ -125,6 +127,7 @@ class Run {
 
   // Rows that are stored together.
   void group(const Place& at) {
+    if (chroma_ == Chroma::halfToHalf) return moveGroup(at);
     for (int r = 0; r < at.rows; ++r) row({at.x, at.y + r, at.n, 1, at.height}, r);
     if (chroma_ == Chroma::none || packs_) return;
     if (chroma_ != Chroma::toHalf) return store_(target_, at, out_.rows(f_.targetOrder));
@@ -133,6 +136,28 @@ class Run {
       chromaOfPairs(rowOf(in_, kOrder_abc, lines.first), lines.count, lines.apart * kRowBytes,
                     rowOf(out_, kOrder_abc, c), at.n, matrix_.toHalf);
     f_.target.half->store(target_, at, out_.rows(f_.targetOrder));
+  }
+
+  // Samples only move; two chroma lines may become one.
+  void moveGroup(const Place& at) {
+    for (int r = 0; r < at.rows; ++r)
+      moveRow({at.x, at.y + r, at.n, 1, at.height}, rowOf(in_, f_.sourceOrder, r));
+    LineSet lines;
+    for (int c = 0; (lines = f_.target.half->lines(c, at.rows)).count != 0; ++c)
+      for (int p = 1; p < 3 && lines.count == 2; ++p)
+        averageLines(in_.bytes[p][lines.first], lines.apart * kRowBytes, (at.n + 1) / 2);
+    f_.target.half->store(target_, at, in_.rows(f_.targetOrder));
+  }
+
+  void moveRow(const Place& at, const TileRows& in) {
+    f_.source.half->split(source_, at, in);
+    const uint8_t* luma = f_.source.half->isPacked ? in.plane[0] : source_.row(0, at.y) + at.x;
+    uint8_t* to = f_.target.half->isPacked ? in.plane[0] : target_.row(0, at.y) + at.x;
+    if (to != luma) __builtin_memcpy(to, luma, at.n);
+  }
+
+  static void averageLines(uint8_t* line, int apart, int n) {
+    for (int i = 0; i < n; i += kVec) store(line + i, mean8(load(line + i), load(line + apart + i)));
   }
 
   void row(const Place& at, int r) {

@@ -1,5 +1,6 @@
 // direct.cpp: samples that only move, from plane to plane, without a tile.
 #include "formats.h"
+#include "packed422.h"
 #include "pairs.h"
 #include "simd.h"
 
@@ -55,37 +56,11 @@ void mergePairs420(const Move& m, const Share& rows) {
     mergePairs(m.source.row(from.first, y), m.source.row(from.second, y), lines.samples, m.target.row(1, y));
 }
 
-// Y0 Cb Y1 Cr to three rows. What the vectors leave, an odd last pixel among it, is
-// taken one by one.
-void splitYuyvRow(const uint8_t* in, int width, uint8_t* y, uint8_t* cb, uint8_t* cr) {
-  const Vec low = all16(0xFF);
-  int i = 0;
-  for (; i + 2 * kVec <= width; i += 2 * kVec) {
-    Vec chroma[2];
-    for (int k = 0; k < 2; ++k) {
-      const Vec a = load(in + 2 * i + 2 * k * kVec), b = load(in + 2 * i + (2 * k + 1) * kVec);
-      store(y + i + k * kVec, narrow(bitAnd(a, low), bitAnd(b, low)));
-      chroma[k] = narrow(shiftRight16<8>(a), shiftRight16<8>(b));
-    }
-    store(cb + i / 2, narrow(bitAnd(chroma[0], low), bitAnd(chroma[1], low)));
-    store(cr + i / 2, narrow(shiftRight16<8>(chroma[0]), shiftRight16<8>(chroma[1])));
-  }
-  for (; i < width; ++i) {
-    y[i] = in[2 * i];
-    if (i % 2 == 0)
-      cb[i / 2] = in[2 * i + 1];
-    else
-      cr[i / 2] = in[2 * i + 1];
-  }
-  // Without its other half the last pair has the Cr of the pair before.
-  if (width % 2 != 0) cr[width / 2] = width > 1 ? cr[width / 2 - 1] : 128;
-}
-
 void splitYuyv(const Move& m, const Share& rows) {
   const ChromaPlanes to = chromaPlanes(m.sourceOrder, m.targetOrder);
   for (int y = rows.first; y < rows.last; ++y)
-    splitYuyvRow(m.source.row(0, y), m.size.width, m.target.row(0, y), m.target.row(to.first, y),
-                 m.target.row(to.second, y));
+    splitBoth<0>(m.source, {0, y, m.size.width, 1, m.size.height},
+                 {{m.target.row(0, y), m.target.row(to.first, y), m.target.row(to.second, y)}});
 }
 
 // Each two bytes change places.

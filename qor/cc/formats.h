@@ -29,6 +29,7 @@ struct HalfChroma {
   int (*line)(int y, int height);     // the same for rows with the same chroma
   LineSet (*lines)(int c, int rows);  // of chroma line c of a group; count 0: there is none
   Load load;                          // chroma as it lies to planes b and c, or pairs to b; null if packed
+  Load split;                         // chroma to planes b and c; with luma if packed
   Store store;  // chroma line c of the group from row c of planes b and c; with luma if packed
 };
 

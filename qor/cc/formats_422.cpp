@@ -1,5 +1,6 @@
 // formats_422.cpp: two pixels in four bytes, with one Cb and one Cr between them.
 #include "formats.h"
+#include "packed422.h"
 #include "pairs.h"
 #include "simd.h"
 
@@ -12,12 +13,6 @@ inline Vec twiceEven(Vec v) {
 }
 inline Vec twiceOdd(Vec v) {
   return bitOr(shiftRight32<16>(v), bitAnd(v, all32(static_cast<int>(0xFFFF0000u))));
-}
-
-// Byte 0 or 1 of each word.
-template <int byte>
-inline Vec byteOf(Vec words) {
-  return byte == 0 ? bitAnd(words, all16(0xFF)) : shiftRight16<8>(words);
 }
 
 // luma and chroma: offsets of the first of each in a pair of pixels.
@@ -83,7 +78,8 @@ LineSet ownLines(int c, int rows) {
 }
 
 template <int luma>
-constexpr HalfChroma kHalfPairs = {true, luma, 2, ownLine, ownLines, nullptr, storeBoth<luma>};
+constexpr HalfChroma kHalfPairs = {true,           luma, 2, ownLine, ownLines, nullptr, splitBoth<luma>,
+                                   storeBoth<luma>};
 
 template <int luma, int chroma>
 constexpr Format pairs() {

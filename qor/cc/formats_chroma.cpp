@@ -35,11 +35,6 @@ const uint8_t* chromaBytes(const Source& s, int plane, const Place& at, int firs
   return s.row(plane, chromaLine(lines, at.y, at.height)) + first;
 }
 
-template <int hshift, int stride>
-void repeat(const uint8_t* in, int n, uint8_t* __restrict out) {
-  for (int i = 0; i < n; ++i) out[i] = in[(i >> hshift) * stride];
-}
-
 // n samples of one byte to 2n pixels; rows of a tile have room for whole vectors.
 void repeatTwice(const uint8_t* in, int n, uint8_t* out) {
   constexpr int step = kVec / 2;
@@ -70,17 +65,23 @@ constexpr int samples(int n, int hshift) {
   return (n + (1 << hshift) - 1) >> hshift;
 }
 
+// Chroma samples of n pixels to all of them.
+template <int hshift>
+void spread(const uint8_t* in, int n, uint8_t* out) {
+  static_assert(hshift == 1 || hshift == 2);
+  if (hshift == 1) return repeatTwice(in, samples(n, 1), out);
+  uint8_t twice[kTilePixels / 2 + kVec];
+  repeatTwice(in, samples(n, 2), twice);
+  repeatTwice(twice, samples(n, 1), out);
+}
+
 template <int hshift, Lines lines>
 void loadThree(const Source& s, const Place& at, const TileRows& out) {
   uint8_t room[kTilePixels];
   __builtin_memcpy(out.row(0, 0), s.row(0, at.y) + at.x, at.n);
-  for (int p = 1; p < 3; ++p) {
-    const uint8_t* in = chromaBytes<lines>(s, p, at, at.x >> hshift, samples(at.n, hshift), room);
-    if constexpr (hshift == 1)
-      repeatTwice(in, samples(at.n, 1), out.row(p, 0));
-    else
-      repeat<hshift, 1>(in, at.n, out.row(p, 0));
-  }
+  for (int p = 1; p < 3; ++p)
+    spread<hshift>(chromaBytes<lines>(s, p, at, at.x >> hshift, samples(at.n, hshift), room), at.n,
+                   out.row(p, 0));
 }
 
 template <int hshift, Lines lines>
@@ -89,8 +90,9 @@ void loadTwo(const Source& s, const Place& at, const TileRows& out) {
   __builtin_memcpy(out.row(0, 0), s.row(0, at.y) + at.x, at.n);
   const uint8_t* in = chromaBytes<lines>(s, 1, at, (at.x >> hshift) * 2, 2 * samples(at.n, hshift), room);
   if constexpr (hshift == 1) return repeatPairsTwice(in, samples(at.n, 1), out.row(1, 0), out.row(2, 0));
-  repeat<hshift, 2>(in, at.n, out.row(1, 0));
-  repeat<hshift, 2>(in + 1, at.n, out.row(2, 0));
+  uint8_t twice[2][kTilePixels / 2 + kVec];
+  repeatPairsTwice(in, samples(at.n, 2), twice[0], twice[1]);
+  for (int p = 1; p < 3; ++p) repeatTwice(twice[p - 1], samples(at.n, 1), out.row(p, 0));
 }
 
 // Mean, rounded half up, of the blocks of 2^hshift pixels in a set of lines.
@@ -232,6 +234,13 @@ void loadHalf(const Source& s, const Place& at, const TileRows& out) {
   }
 }
 
+template <Lines lines>
+void splitHalf(const Source& s, const Place& at, const TileRows& out) {
+  const int n = samples(at.n, 1);
+  uint8_t room[2 * kTilePixels];
+  splitPairs(chromaBytes<lines>(s, 1, at, at.x, 2 * n, room), n, out.row(1, 0), out.row(2, 0));
+}
+
 template <Lines lines, int stride>
 void storeHalf(const Target& d, const Place& at, const TileRows& in) {
   const int firstLine = chromaLine(lines, at.y, at.height), n = samples(at.n, 1);
@@ -251,6 +260,7 @@ constexpr HalfChroma kHalfChroma = {false,
                                     sharedLine<lines>,
                                     sharingLines<lines>,
                                     loadHalf<lines, stride>,
+                                    stride == 2 ? splitHalf<lines> : loadHalf<lines, stride>,
                                     storeHalf<lines, stride>};
 
 constexpr int groupRows(Lines lines) {

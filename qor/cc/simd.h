@@ -135,6 +135,10 @@ inline Vec upperWords(Vec even, Vec odd) {
   return bitOr(shiftRight32<16>(even), bitAnd(odd, all32(static_cast<int>(0xFFFF0000u))));
 #endif
 }
+// Rounded up.
+inline Vec mean8(Vec a, Vec b) {
+  return QORCC_V(avg_epu8)(a, b);
+}
 inline Vec saturatingAdd8(Vec a, Vec b) {
   return QORCC_V(adds_epu8)(a, b);
 }
