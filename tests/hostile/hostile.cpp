@@ -118,3 +118,15 @@ HOSTILE(qoriThreads_8u_C3R) {
   pthread_detach(thread);
   return qorStsNoErr;
 }
+
+static void* crash(void*) {
+  qoriNull_8u_C3R(nullptr, 0, nullptr, 0, {});
+  return nullptr;
+}
+
+HOSTILE(qoriThreadCrash_8u_C3R) {
+  pthread_t thread;
+  if (pthread_create(&thread, nullptr, crash, nullptr) != 0) return qorStsNoMemErr;
+  pthread_join(thread, nullptr);
+  return qorStsNoErr;
+}

@@ -31,6 +31,8 @@ HOSTILE(qoriWarningFifth_8u_C3R)
 HOSTILE(qoriWarningLast_8u_C3R)
 // Threads that are still there when the call has ended.
 HOSTILE(qoriThreads_8u_C3R)
+// A thread that doesn't return: the end of the process, since its stack isn't the one that a test is left by.
+HOSTILE(qoriThreadCrash_8u_C3R)
 
 #undef HOSTILE
 

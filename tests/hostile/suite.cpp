@@ -59,8 +59,13 @@ class TimWitness : public TimHostile {
   volatile long double m_three = 3;
 };
 
-static zebResult copyOnce(int, long long* clocks) {
+static int copyCall() {
   *pDst.p32f = *pSrc.p32f;
+  return 0;
+}
+
+static zebResult copyOnce(int, long long* clocks) {
+  copyCall();
   *clocks = 1000;
   return resOk;
 }
@@ -71,7 +76,7 @@ static zebResult copyOnceStat(int*, long long* clocks) {
 
 static bool regWitness() {
   const char* const name = "qoriWitness_32f_C3R";
-  return mokRegTest<TimWitness>({nullptr, nullptr, copyOnce, copyOnceStat, name}, MOK_SOURCE,
+  return mokRegTest<TimWitness>({copyCall, nullptr, copyOnce, copyOnceStat, name}, MOK_SOURCE,
                                 "TimWitness//none");
 }
 
@@ -98,6 +103,7 @@ HOSTILE_REG(qoriErrorLast_8u_C3R)
 HOSTILE_REG(qoriWarningFifth_8u_C3R)
 HOSTILE_REG(qoriWarningLast_8u_C3R)
 HOSTILE_REG(qoriThreads_8u_C3R)
+MOK_REG(TimHostile, qoriThreadCrash_8u_C3R, (pSrc.p8u, srcStep, pDst.p8u, dstStep, size))
 
 static zebResult noClocks(int, long long* clocks) {
   *clocks = 0;
@@ -109,14 +115,18 @@ static zebResult noClocks(int, long long* clocks) {
 [[maybe_unused]] static const bool regLastWitness = regWitness();
 
 // What a thousand crashing tests leave behind is looked at from outside.
+static int crashCall() {
+  return qoriNull_8u_C3R(nullptr, 0, nullptr, 0, size);
+}
+
 static zebResult crash(int, long long*) {
-  qoriNull_8u_C3R(nullptr, 0, nullptr, 0, size);
+  crashCall();
   return resOk;
 }
 
 static bool regCrashes(int count, const char* name) {
   for (int i = 0; i < count; ++i) {
-    mokRegTest<TimHostile>({nullptr, nullptr, crash, nullptr, name}, MOK_SOURCE, "TimHostile//none");
+    mokRegTest<TimHostile>({crashCall, nullptr, crash, nullptr, name}, MOK_SOURCE, "TimHostile//none");
   }
   return true;
 }
