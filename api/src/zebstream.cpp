@@ -1,5 +1,9 @@
 #include "zebstream.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstring>
 
@@ -57,6 +61,7 @@ void io_stream::note(bool failed) {
 }
 
 void o_stream::write(const zebString& text) {
+  if (m_error != 0 && m_file != stdout) return;  // half a line may stand at the end
   const bool good = fputs(text.c_str(), m_file ? m_file : stdout) >= 0;
   if (m_file) note(!good);
 }
@@ -64,11 +69,26 @@ void o_stream::write(const zebString& text) {
 void o_stream::finish() {
   flush();
   const bool readerLeft = m_error == EPIPE && m_file == stdout;
+  if (m_error != 0 && m_file && m_file != stdout) cutHalfLine();
   close();
   if (m_error != 0 && !readerLeft) {
     fprintf(stderr, "zeb: %s: not written to its end (%s)\n", m_name.c_str(), strerror(m_error));
   }
   m_error = 0;
+}
+
+void o_stream::cutHalfLine() {
+  const int file = fileno(m_file);
+  struct stat state;
+  if (fstat(file, &state) != 0 || !S_ISREG(state.st_mode)) return;
+  zebString name;
+  name << "/proc/self/fd/" << file;  // which is open for writing alone
+  const int text = open(name.c_str(), O_RDONLY | O_CLOEXEC);
+  char last = 0;
+  off_t end = state.st_size;
+  while (end > m_start && pread(text, &last, 1, end - 1) == 1 && last != '\n') --end;
+  ::close(text);
+  if (end < state.st_size) note(ftruncate(file, end) != 0);
 }
 
 o_stream& operator<<(o_stream& out, const zebString& text) {
@@ -110,6 +130,7 @@ o_stream* createOStream(const zebString& name, bool append) {
   if (stream->m_file) {
     // A run that is killed has written its last line, and no half of one.
     setvbuf(stream->m_file, nullptr, _IOLBF, BUFSIZ);
+    stream->m_start = ftello(stream->m_file);
     return stream;
   }
   delete stream;

@@ -42,8 +42,15 @@ class o_stream : public io_stream {
   void write(const zebString& text);
 
   // Flushes and closes. A write that failed since the open is told on standard error, where the text can't be
-  // lost with the file; nothing if the reader of standard output has gone.
+  // lost with the file; nothing if the reader of standard output has gone. Behind a failed write a file gets
+  // nothing more and ends on a whole line.
   void finish();
+
+ private:
+  friend o_stream* createOStream(const zebString& name, bool append);
+  void cutHalfLine();
+
+  long m_start = 0;  // bytes that the file had when it was opened to append
 };
 
 // Text for a file that couldn't be opened goes to standard output, so that it isn't lost.

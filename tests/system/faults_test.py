@@ -57,11 +57,53 @@ class Faults(ZebTest):
         for name in ("full.csv", "closed.csv"):
             self.assertIn("RGBToYCbCr", self.assert_whole_lines(name))
 
-    def test_a_disk_that_fills_leaves_what_was_written(self):
+    def test_a_disk_that_fills_leaves_whole_lines(self):
+        self.write("table.csv", "no line end")
         limit = limited(resource.RLIMIT_FSIZE, 4096, signal.SIGXFSZ)
-        done = self.run_under("-fRGBTo", *QUICK, "-rtable.csv", prepare=limit)
+        done = self.run_under("-fRGBTo", *QUICK, "-Rtable.csv", prepare=limit)
         self.assertIn("table.csv: not written to its end (File too large)", done.stderr)
-        self.assertEqual(len(self.read("table.csv")), 4096)
+        self.assertEqual(done.returncode, 0)
+        text = self.assert_whole_lines("table.csv")
+        self.assertTrue(text.startswith("no line end"))
+        self.assertTrue(3800 < len(text) < 4096, len(text))
+        self.assertEqual(len({line.count(",") for line in text.splitlines()[-15:]}), 1)
+
+    def test_a_file_system_that_fills_leaves_whole_lines_and_the_old_ini_file(self):
+        script = """
+            mount -t tmpfs -o size=12k none "$PWD" 2>/dev/null && cd "$PWD" || exit 77
+            printf "[old]\nkey=1\n" >keep.ini
+            "$0" -B -fqori -Q -qnames.csv >/dev/null
+            cat names.csv
+            rm names.csv
+            "$0" -B -fqori -Ikeep.ini | grep Can.t
+            cat *
+        """
+        path = os.path.dirname(zebrun.PROGRAM) + ":" + os.environ["PATH"]
+        command = ["unshare", "-rm", "sh", "-c", script, "zeb_qorcc"]
+        done = subprocess.run(
+            command, cwd=self.folder, env={**os.environ, "PATH": path}, capture_output=True, text=True, timeout=120
+        )
+        if done.returncode in (1, 77):
+            self.skipTest("nothing may be mounted here")
+        names, told, kept = re.split("(.*Can't.*\n)", done.stdout)
+        self.assertIn("names.csv: not written to its end (No space left on device)", done.stderr)
+        self.assertTrue(8000 < len(names) < 8192 and names.endswith("\n"), (len(names), names[-99:]))
+        self.assertEqual((told, kept), ("-- Can't write file keep.ini\n", "[old]\nkey=1\n"))
+
+    def test_a_folder_of_somebody_else_ends_the_run_before_it_begins(self):
+        def leave_root():
+            if os.getuid() == 0:
+                os.setgid(65534)
+                os.setuid(65534)
+
+        os.chmod(self.folder, 0o555)
+        for key in ("-ox.txt", "-rx.csv", "-ux.csv", "-qx.csv", "-Ix.ini"):
+            try:
+                done = self.run_under(ONE, *QUICK, key, prepare=leave_root)
+            except PermissionError:
+                self.skipTest("nobody may start the program here")
+            self.assertIn(f"-- Can't open file {key[2:]} to write: \n", done.stdout)
+            self.assertNotIn("ZEB Summary", done.stdout)
 
     def test_an_ini_file_keeps_its_text_when_rewriting_fails(self):
         old = "[old]\nkey=1\n"  # the new text is more than 2000 bytes
