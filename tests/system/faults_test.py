@@ -106,7 +106,7 @@ class Faults(ZebTest):
             self.assertNotIn("ZEB Summary", done.stdout)
 
     def test_an_ini_file_keeps_its_text_when_rewriting_fails(self):
-        old = "[old]\nkey=1\n"  # the new text is more than 2000 bytes
+        old = "[old]\nkey=1\n"  # the new text is more than 2000 bytes; the second run is killed half-way
         for ignored, status in ((signal.SIGXFSZ, 0), (None, -signal.SIGXFSZ)):
             self.write("keep.ini", old)
             limit = limited(resource.RLIMIT_FSIZE, 512, ignored)
