@@ -123,7 +123,7 @@ class ThroughAPipe(ZebTest):
         self.assertEqual((run.status, len(run.figures())), (0, 3))
 
     def test_batch_mode_asks_nothing_whatever_else_is_said(self):
-        run = self.run_zeb("-AAll", "-B", "-A", ONE, given="Manual\n")
+        run = self.run_zeb("-AAll", "-B", "-A", ONE, "-dImageSize=8x8", given="Manual\n")
         self.assertNotIn("] = ", run.text)
         self.assertNotIn("***", run.text)
         self.assertIn(" Method = Auto\n", run.text)

@@ -68,7 +68,7 @@ class Measuring(ZebTest):
         self.assertEqual(run.summary("Number of tests"), "1")
 
     def test_without_levels_a_test_is_two_lines(self):
-        run = self.run_zeb("-B", ONE)
+        run = self.run_zeb("-B", ONE, "-dImageSize=16x16")
         self.assertEqual(len(run.lines("| Function  : qoriRGBToYCbCr_8u_C3R")), 1)
         self.assertEqual(run.results(), [("OK", "qoriRGBToYCbCr_8u_C3R")])
         self.assertNotIn("perf=", run.text)
