@@ -16,19 +16,44 @@ struct Call {
   int alpha = 7;
   const float* coeffs = nullptr;
   int layout = qoriSliceWhole;
+  const float (*twist)[4] = nullptr;
+  float vMin = -0.25f, vMax = 1;
+  int noise = 0;
+  QoriDitherType dither = qorDitherNone;
+  int levels = 3;
+  QoriSize mosaic = {0, 0};  // of which roi is converted
+  QoriRect roi = {0, 0, 0, 0};
+  QoriBayerGrid grid = qoriBayerGBRG;
+  int interpolation = 0;
+  void* scratch = nullptr;
+  int scratchStep = 0;
   // Pass null in place of an array.
   bool noSourcePlanes = false, noTargetPlanes = false, noSourceSteps = false, noTargetSteps = false;
 };
 
 struct Entry {
   std::string name;
-  std::string sourcePart, targetPart, extra;  // as in the list
+  std::string sourcePart, targetPart, extra;  // as in the lists; mosaics and reductions: what they are
   QorStatus (*run)(const Call&);
+
+  bool inPlace() const { return sourcePart.ends_with("InPlace"); }  // reads and writes the target
+  bool isMosaic() const { return extra == "Bilinear" || extra == "Adaptive"; }
 };
 
+// The rows of qorccfunctions.def; all functions that there are.
+const std::vector<Entry>& conversions();
 const std::vector<Entry>& entries();
 
-// A call that is right in every argument.
-Call callOf(const Image& source, const Image& target);
+// Rows of scratch that a function takes.
+constexpr int kScratchRows = 30;
+
+// A mosaic needs more pixels than are converted: at odd sizes one before them, else one behind.
+QoriSize sourceSize(const Entry&, QoriSize target);
+
+// Everything but the memory. Kinds of dither take turns with the width.
+Call parameters(const Entry&, QoriSize target);
+
+// A call that is right in every argument; in place: of the source's pixels.
+Call callOf(const Entry&, const Image& source, Image& target);
 
 #endif

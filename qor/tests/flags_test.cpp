@@ -10,8 +10,8 @@ namespace {
 
 constexpr float kCoeffs[3] = {0.33f, 0.33f, 0.33f};
 
-int flagsOf(const Entry& e, const Image& source, const Image& target) {
-  Call c = callOf(source, target);
+int flagsOf(const Entry& e, const Image& source, Image& target) {
+  Call c = callOf(e, source, target);
   c.coeffs = kCoeffs;
   feclearexcept(FE_ALL_EXCEPT);
   EXPECT_EQ(e.run(c), qorStsNoErr) << e.name;
@@ -22,10 +22,10 @@ int flagsOf(const Entry& e, const Image& source, const Image& target) {
 
 TEST(Flags, OnlyInexactIsRaisedOnRandomAndOnBlackPictures) {
   std::mt19937 random(1);
-  for (const Entry& e : entries()) {
+  for (const Entry& e : conversions()) {
     const Names names = parse(e.name);
     Image source(names.source, 70, 8, 0);
-    const Image target(names.target, 70, 8, 0);
+    Image target(names.target, 70, 8, 0);
     source.fillRandom(random);
     EXPECT_EQ(flagsOf(e, source, target), 0) << e.name << " of random values";
     source.fillBytes(0);

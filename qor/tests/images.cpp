@@ -52,6 +52,13 @@ void Image::fillRandom(std::mt19937& random) {
       }
 }
 
+void Image::copyPixels(const Image& from) {
+  for (int p = 0; p < planeCount(); ++p)
+    for (int y = 0; y < rowCount(layout, p, height); ++y)
+      std::memcpy(plane(p) + size_t(y) * step(p), from.plane(p) + size_t(y) * from.step(p),
+                  size_t(rowElements(layout, p, width)) * layout.elementSize());
+}
+
 std::vector<std::vector<uint8_t>> Image::copy() const {
   std::vector<std::vector<uint8_t>> all;
   for (const auto& p : planes_) all.push_back(p->copy());
@@ -81,6 +88,7 @@ void put(uint8_t* at, double value) {
 double Image::value(const Location& at) const {
   const uint8_t* p = plane(at.plane) + offset(at);
   if (layout.type == "8u") return *p;
+  if (layout.type == "8s") return get<int8_t>(p);
   if (layout.type == "16u") return get<uint16_t>(p);
   if (layout.type == "16s") return get<int16_t>(p);
   return layout.type == "32s" ? get<int32_t>(p) : get<float>(p);
@@ -89,6 +97,7 @@ double Image::value(const Location& at) const {
 void Image::setValue(const Location& at, double v) {
   uint8_t* p = plane(at.plane) + offset(at);
   if (layout.type == "8u") return put<uint8_t>(p, v);
+  if (layout.type == "8s") return put<int8_t>(p, v);
   if (layout.type == "16u") return put<uint16_t>(p, v);
   if (layout.type == "16s") return put<int16_t>(p, v);
   return layout.type == "32s" ? put<int32_t>(p, v) : put<float>(p, v);

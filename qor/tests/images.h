@@ -42,6 +42,7 @@ class Image {
   // colours if the space is LUV).
   void fillRandom(std::mt19937& random);
   void fillBytes(uint8_t value);
+  void copyPixels(const Image& from);  // of the same layout and size
 
   uint8_t* plane(int p) const { return planes_[p]->data(); }
   int step(int p) const { return steps_[p]; }

@@ -54,16 +54,17 @@ int Layout::elementSize() const {
   return std::stoi(type) / 8;
 }
 double Layout::low() const {
-  return type == "16s" ? -32768 : type == "32s" ? -2147483648.0 : 0;
+  return type == "8s" ? -128 : type == "16s" ? -32768 : type == "32s" ? -2147483648.0 : 0;
 }
 double Layout::high() const {
   if (type == "32f") return 1;
-  return type == "8u" ? 255 : type == "16u" ? 65535 : type == "16s" ? 32767 : 2147483647.0;
+  if (type == "8u" || type == "8s") return type == "8u" ? 255 : 127;
+  return type == "16u" ? 65535 : type == "16s" ? 32767 : 2147483647.0;
 }
 
 Names parse(const std::string& function) {
   static const std::regex form(
-      "qori([A-Za-z0-9]+?)_(?:([A-Za-z0-9]+)_)?(\\d+[usf])(\\d+[usf])?_(A?[CP]\\d)(A?[CP]\\d)?R?");
+      "qori([A-Za-z0-9]+?)_(?:([A-Za-z0-9]+)_)?(\\d+[usf])(\\d+[usf])?_I?(A?[CP]\\d)(A?[CP]\\d)?I?R?");
   std::smatch m;
   Names n;
   if (!std::regex_match(function, m, form)) return n;

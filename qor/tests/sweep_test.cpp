@@ -14,7 +14,7 @@
 namespace {
 
 const Entry& entry(const std::string& name) {
-  for (const Entry& e : entries())
+  for (const Entry& e : conversions())
     if (e.name == name) return e;
   throw std::runtime_error("no function " + name);
 }
@@ -44,7 +44,7 @@ class Sweep {
  private:
   bool row(int b, int c) {
     for (int i = 0; i < colours_; ++i) setBlock(i, {double(i * step_), double(b), double(c)});
-    if (entry_.run(callOf(source_, target_)) != qorStsNoErr) ADD_FAILURE() << entry_.name;
+    if (entry_.run(callOf(entry_, source_, target_)) != qorStsNoErr) ADD_FAILURE() << entry_.name;
     for (int i = 0; i < colours_; ++i)
       if (!fits(i, {double(i * step_), double(b), double(c)})) return false;
     return true;
