@@ -21,6 +21,7 @@ struct Mean {
 // How far a result may lie from the rounded reference, in counts of an integer,
 // or as a share of the value (of 1, if that is more) for floats.
 double tolerance(const Names& n) {
+  if (n.base.starts_with("ToneMap")) return 1;
   if (n.source.space == n.target.space || n.target.space == "YCoCg" || n.source.space == "YCoCg") return 0;
   if (n.target.type != "32f") return 1;
   // u* and v* are 13 L times a difference of two fractions near 0.2 and 0.5.
@@ -173,16 +174,19 @@ TEST(Functions, AreFourHundredAndEightyThree) {
 
 TEST(Conversions, GiveTheReferenceValuesAndTouchNothingElse) {
   // Heights: groups of two and four lines with every remainder.
-  for (const Entry& e : conversions())
-    for (int width : {1, 2, 3, 5, 7, 16, 17, 63})
-      for (int height : {1, 2, 3, 5, 6, 7, 8})
-        if (!Comparison(e, width, height, 5, unsigned(width * 100 + height)).run()) return;
+  for (const Entry& e : conversions()) {
+    for (int width = 1; width <= 70; ++width)
+      if (!Comparison(e, width, 1 + width % 8, 5, unsigned(width)).run()) return;
+    for (int height = 1; height <= 8; ++height)
+      for (int width : {1, 2, 3, 5, 18})
+        if (!Comparison(e, width, height, 5, unsigned(height)).run()) return;
+  }
 }
 
 TEST(Conversions, AreTheSameAcrossTiles) {
   for (const Entry& e : conversions())
-    for (int padding : {0, 1})
-      if (!Comparison(e, 1047, 5, padding, 7).run()) return;
+    for (QoriSize size : {QoriSize{255, 2}, {1047, 3}, {4133, 1}})
+      if (!Comparison(e, size.width, size.height, size.width % 2, 7).run()) return;
 }
 
 }  // namespace
