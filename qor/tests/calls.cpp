@@ -95,7 +95,7 @@ QoriSize sourceSize(const Entry& e, QoriSize target) {
 }
 
 Call parameters(const Entry& e, QoriSize target) {
-  static const float coeffs[3] = {0.25f, 0.5f, 0.125f};
+  static const float coeffs[3] = {0.2126f, 0.7152f, 0.0722f};
   static const float twist[4][4] = {
       {0.5f, 0.75f, -0.25f, 3}, {-1, 0.125f, 1.5f, -20}, {0.3f, 0.3f, 0.3f, 0.5f}, {0.25f, -0.5f, 0.75f, 2}};
   Call c;
@@ -116,7 +116,7 @@ Call callOf(const Entry& e, const Image& source, Image& target) {
   for (int p = 0; p < target.planeCount(); ++p)
     c.target[p] = target.plane(p), c.targetStep[p] = target.step(p);
   if (e.inPlace()) target.copyPixels(source);
-  static std::vector<Qor16u> scratch;
+  thread_local std::vector<Qor16u> scratch;
   scratch.resize(std::max(scratch.size(), size_t(kScratchRows) * (target.width + 6)));
   c.scratch = scratch.data();
   c.scratchStep = (target.width + 6) * 2;

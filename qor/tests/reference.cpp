@@ -23,35 +23,37 @@ Triple elements(const Triple& t, const Layout& l) {
 double transferCurve(double light) {
   return light < 0.018 ? 4.5 * light : 1.099 * std::pow(light, 0.45) - 0.099;
 }
-
-// YCbCr and YUV: 0..255 in and out.
-Triple toYcbcr(const Triple& c, const std::string& variant) {
-  const auto [r, g, b] = c;
-  if (variant == "709HDTV")
-    return {16 + 0.182586 * r + 0.614231 * g + 0.062007 * b, 128 - 0.100644 * r - 0.338572 * g + 0.439216 * b,
-            128 + 0.439216 * r - 0.398942 * g - 0.040274 * b};
-  const double y709 = 0.2126 * r + 0.7152 * g + 0.0722 * b;
-  if (variant == "709CSC") return {y709, 128 + (b - y709) / 1.8556, 128 + (r - y709) / 1.5748};
-  return {16 + (65.481 * r + 128.553 * g + 24.966 * b) / 255,
-          128 + (-37.797 * r - 74.203 * g + 112 * b) / 255, 128 + (112 * r - 93.786 * g - 18.214 * b) / 255};
+double transferCurveBack(double v) {
+  return v < 0.081 ? v / 4.5 : std::pow((v + 0.099) / 1.099, 1 / 0.45);
 }
 
-Triple fromYcbcr(const Triple& c, const std::string& variant) {
-  const double cb = c[1] - 128, cr = c[2] - 128;
-  if (variant == "709CSC")
-    return {c[0] + 1.5748 * cr, c[0] - 0.187324 * cb - 0.468124 * cr, c[0] + 1.8556 * cb};
-  const double y = 1.164384 * (c[0] - 16);
-  if (variant == "709HDTV") return {y + 1.792741 * cr, y - 0.213249 * cb - 0.532909 * cr, y + 2.112402 * cb};
-  return {y + 1.596027 * cr, y - 0.391762 * cb - 0.812968 * cr, y + 2.017232 * cb};
-}
+// Luma and colour differences. YCbCr and YUV: 0..255 in and out.
+struct LumaSpace {
+  double red, blue;            // shares of luma
+  double black, luma, chroma;  // 0, and the spans of Y and of the differences, which lie about 128
+  double ofBlue, ofRed;        // spans of B - Y and R - Y
 
-Triple toYuv(const Triple& c) {
-  const double y = 0.299 * c[0] + 0.587 * c[1] + 0.114 * c[2];
-  return {y, 0.492 * (c[2] - y) + 128, 0.877 * (c[0] - y) + 128};
-}
-Triple fromYuv(const Triple& c) {
-  const double u = c[1] - 128, v = c[2] - 128;
-  return {c[0] + v / 0.877, c[0] - 0.394731 * u - 0.580810 * v, c[0] + u / 0.492};
+  double y(const Triple& c) const { return red * c[0] + (1 - red - blue) * c[1] + blue * c[2]; }
+  Triple into(const Triple& c) const {
+    const double light = y(c);
+    return {black + luma * light / 255, 128 + chroma * (c[2] - light) / ofBlue,
+            128 + chroma * (c[0] - light) / ofRed};
+  }
+  Triple from(const Triple& c) const {
+    const double light = (c[0] - black) * 255 / luma;
+    const double r = light + (c[2] - 128) * ofRed / chroma, b = light + (c[1] - 128) * ofBlue / chroma;
+    return {r, (light - red * r - blue * b) / (1 - red - blue), b};
+  }
+};
+
+const LumaSpace& lumaSpace(const Names& n) {
+  static const LumaSpace bt601 = {0.299, 0.114, 16, 219, 224, 255 * 1.772, 255 * 1.402},
+                         hdtv = {0.2126, 0.0722, 16, 219, 224, 255 * 1.8556, 255 * 1.5748},
+                         csc = {0.2126, 0.0722, 0, 255, 1, 1.8556, 1.5748},
+                         yuv = {0.299, 0.114, 0, 255, 1, 1 / 0.492, 1 / 0.877};
+  if (n.variant == "709HDTV") return hdtv;
+  if (n.variant == "709CSC") return csc;
+  return n.source.space == "YUV" || n.target.space == "YUV" ? yuv : bt601;
 }
 
 // The rest: fractions of RGB in, fractions of the space out, but for LUV and Lab.
@@ -244,7 +246,78 @@ Triple gammaCoded(const Triple& c) {
   return r;
 }
 
+// Values that fill low..high.
+double gammaOf(const Names& n, double v, const Surroundings& around) {
+  const bool isFloat = n.source.type == "32f";
+  const double low = isFloat ? around.low : n.source.low(), high = isFloat ? around.high : n.source.high();
+  const double fraction = std::clamp((v - low) / (high - low), 0.0, 1.0);
+  return low + (high - low) * (n.base == "GammaFwd" ? transferCurve : transferCurveBack)(fraction);
+}
+
+double reduced(const Names& n, double v, int levels) {
+  const double exact = (v - n.source.low()) / (n.source.high() - n.source.low()) * (levels - 1);
+  const double place = std::floor(exact * 65536 + 0.5) / 65536;
+  return n.target.low() + std::floor(place + 0.5) / (levels - 1) * (n.target.high() - n.target.low());
+}
+
+Triple each(const Triple& c, const std::function<double(double)>& f) {
+  return {f(c[0]), f(c[1]), f(c[2])};
+}
+
+// Of an affine map: the offset and the products.
+Triple affineTerms(const Names& n, const Triple& source, const Surroundings& around) {
+  const Triple offset = expected(n, {}, around);
+  Triple most = each(offset, [](double v) { return std::abs(v); });
+  for (int j = 0; j < 3; ++j) {
+    Triple one = {};
+    one[j] = source[j];
+    const Triple product = expected(n, one, around);
+    for (int i = 0; i < 3; ++i) most[i] = std::max(most[i], std::abs(product[i] - offset[i]));
+  }
+  return most;
+}
+
+double hueTerm(const Triple& c, double hue) {
+  const double most = std::max({c[0], c[1], c[2]});
+  if (c[0] == most) return c[1] < c[2] ? 1 : hue;
+  return std::max(hue, (c[1] == most ? 2 : 4) / 6.0);
+}
+
+Triple luvTerms(const Triple& rgb) {
+  const auto [x, y, z] = toXyz(rgb);
+  const double l = toLuv(rgb)[0], sum = x + 15 * y + 3 * z;
+  if (sum == 0) return {0, 0, 0};
+  return {std::max(l, l + 16), 13 * l * std::max(4 * x / sum, kWhiteU),
+          13 * l * std::max(9 * y / sum, kWhiteV)};
+}
+
+// X and Z are u' and 12 times Y / (4 v'), roughly; then the matrix.
+Triple rgbOfLuvTerms(const Triple& luv) {
+  const Triple rgb = fromLuv(luv), xyz = toXyz(rgb);
+  const double v = luv[0] > 0 ? luv[2] / (13 * luv[0]) + kWhiteV : 1;
+  const Triple terms = {std::abs(xyz[0]), xyz[1], 12 * xyz[1] / (4 * v)};
+  Triple most = {};
+  for (int j = 0; j < 3; ++j) {
+    Triple one = {};
+    one[j] = terms[j];
+    const Triple product = fromXyz(one);
+    for (int i = 0; i < 3; ++i) most[i] = std::max(most[i], std::abs(product[i]));
+  }
+  return most;
+}
+
 }  // namespace
+
+Surroundings::Surroundings(const Call& c)
+    : coeffs{c.coeffs[0], c.coeffs[1], c.coeffs[2]},
+      twist(c.twist),
+      low(c.vMin),
+      high(c.vMax),
+      levels(c.levels) {}
+
+double twisted(const float (&row)[4], const Triple& source, double fourth) {
+  return row[0] * source[0] + row[1] * source[1] + row[2] * source[2] + row[3] * fourth;
+}
 
 Triple expected(const Names& n, const Triple& source, const Surroundings& around) {
   const std::string &from = n.source.space, &into = n.target.space;
@@ -253,14 +326,32 @@ Triple expected(const Names& n, const Triple& source, const Surroundings& around
     return {around.most == around.least ? 0
                                         : 255 * (source[0] - around.least) / (around.most - around.least)};
   if (n.base == "ToneMapMean") return {127.5 * source[0] / around.mean};
+  if (n.base.starts_with("ColorTwist")) {
+    Triple r;
+    for (int i = 0; i < 3; ++i) r[i] = twisted(around.twist[i], source, around.fourth);
+    return r;
+  }
+  if (n.base.starts_with("Gamma")) return each(source, [&](double v) { return gammaOf(n, v, around); });
+  if (n.base == "ReduceBits") return each(source, [&](double v) { return reduced(n, v, around.levels); });
   if (from == into) return source;
   if (from == "Color") return {weighted(source, around.coeffs)};
   if (into == "Gray") return {weighted(source, {0.299, 0.587, 0.114})};
-  if (into == "YCbCr") return toYcbcr(n.base.ends_with("Gamma") ? gammaCoded(source) : source, n.variant);
-  if (from == "YCbCr") return fromYcbcr(source, n.variant);
-  if (into == "YUV") return toYuv(source);
-  if (from == "YUV") return fromYuv(source);
+  if (into == "YCbCr" || into == "YUV")
+    return lumaSpace(n).into(n.base.ends_with("Gamma") ? gammaCoded(source) : source);
+  if (from == "YCbCr" || from == "YUV") return lumaSpace(n).from(source);
   if (into == "YCoCg") return toYcocg(source, lossless, n.target);
   if (from == "YCoCg") return fromYcocg(source, lossless, n.source);
   return from == "RGB" ? fromRgb(n, source) : toRgb(n, source);
+}
+
+Triple largestTerms(const Names& n, const Triple& source, const Surroundings& around) {
+  const Triple plain = expected(n, source, around);
+  const Triple result = each(plain, [](double v) { return std::abs(v); });
+  if (n.base.starts_with("Gamma"))
+    return each(plain, [&](double v) { return std::max(std::abs(around.low), std::abs(v - around.low)); });
+  if (n.target.space == "HLS") return {hueTerm(source, result[0]), result[1], result[2]};
+  if (n.source.space == "HLS") return {2 * source[1], 2 * source[1], 2 * source[1]};
+  if (n.target.space == "LUV") return luvTerms(source);
+  if (n.source.space == "LUV") return rgbOfLuvTerms(source);
+  return affineTerms(n, source, around);
 }

@@ -5,18 +5,32 @@
 
 #include <array>
 
-#include "layouts.h"
+#include "calls.h"
 
 using Triple = std::array<double, 3>;
 
 // What a conversion needs besides the pixel.
 struct Surroundings {
+  Surroundings() = default;
+  explicit Surroundings(const Call&);
+
   double coeffs[3] = {};
+  const float (*twist)[4] = nullptr;
+  double low = 0, high = 1;  // of gamma's floats
+  int levels = 2;
+  double fourth = 1;                     // the pixel's fourth channel if a twist takes it
   double least = 0, most = 0, mean = 0;  // of the whole source
 };
 
 // Components as element values of the source's type in, of the destination's
 // type out: not rounded, not clamped.
 Triple expected(const Names&, const Triple& source, const Surroundings&);
+
+// A row of a twist's matrix.
+double twisted(const float (&row)[4], const Triple& source, double fourth);
+
+// For each component of a float result the largest number that the formula adds or
+// subtracts on its way: single precision can't keep more digits than that one has.
+Triple largestTerms(const Names&, const Triple& source, const Surroundings&);
 
 #endif

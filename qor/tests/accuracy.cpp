@@ -1,0 +1,249 @@
+#include "accuracy.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <stdexcept>
+#include <thread>
+
+namespace {
+
+constexpr int kSliceColours = 65536, kWideSlices = 64;
+
+// A row of colours, converted at once. Colours are two pixels wide where chroma is.
+class Slice {
+ public:
+  Slice(const Subject& s, int step)
+      : subject_(s),
+        names_(s.names),
+        wide_(std::max(names_.source.blockWidth, names_.target.blockWidth)),
+        step_(step) {}
+
+  Errors measure(int k) {
+    makeColours(k);
+    const QoriSize size = {int(colours_.size()) * wide_, 1};
+    Image source(names_.source, size.width, 1, 0), target(names_.target, size.width, 1, 0);
+    for (int i = 0; i < size.width; ++i)
+      for (int c = 0; c < components(names_.source); ++c)
+        if (const auto at = locate(names_.source, c, i, 0, size.width, 1))
+          source.setValue(*at, colours_[i / wide_][c]);
+    for (size_t i = 0; i < colours_.size(); ++i)  // what the type made of them
+      for (int c = 0; c < components(names_.source); ++c)
+        colours_[i][c] = source.value(*locate(names_.source, c, int(i) * wide_, 0, size.width, 1));
+    Call call = callOf(*subject_.entry, source, target);
+    call.dither = qorDitherNone, call.noise = 0;
+    around_ = Surroundings(call);
+    measureSurroundings();
+    if (subject_.entry->run(call) != qorStsNoErr) throw std::runtime_error(subject_.entry->name);
+    Errors errors;
+    for (size_t i = 0; i < colours_.size(); ++i) compare(target, int(i), errors);
+    return errors;
+  }
+
+ private:
+  static int components(const Layout& l) { return l.channels == 1 && !l.planar ? 1 : 3; }
+
+  void makeColours(int k) {
+    colours_.clear();
+    if (names_.source.elementSize() == 1) return makeBytes(k);
+    random_.seed(unsigned(k));
+    for (int i = 0; i < kSliceColours; ++i) colours_.push_back({any(i), any(i), any(i)});
+    const double low = names_.source.low(), high = names_.source.high();
+    const double ends[] = {low, std::floor((low + high) / 2), high};
+    for (int i = 0; i < 27; ++i) colours_[i] = {ends[i % 3], ends[i / 3 % 3], ends[i / 9]};
+    // Floats aren't bounded: the LUV of RGB's colours.
+    static const Names luv = parse("qoriRGBToLUV_32f_C3R");
+    if (names_.source.space != "LUV" || names_.source.type != "32f") return;
+    for (Triple& t : colours_) t = expected(luv, t, {});
+  }
+
+  void makeBytes(int k) {
+    const double low = names_.source.low();
+    for (int b = 0; b < 256; b += step_)
+      for (int c = 0; c < 256; c += step_) colours_.push_back({low + k * step_, low + b, low + c});
+  }
+
+  // Every second colour is near black.
+  double any(int i) {
+    const double unit = random_() / 4294967296.0, near = i % 2 ? std::ldexp(1, -int(random_() % 16)) : 1;
+    const double v = names_.source.low() + unit * near * (names_.source.high() - names_.source.low());
+    return names_.source.type == "32f" ? v : std::floor(v + 0.5);
+  }
+
+  void measureSurroundings() {
+    around_.least = around_.most = colours_[0][0], around_.mean = 0;
+    for (const Triple& t : colours_) {
+      around_.least = std::min(around_.least, t[0]);
+      around_.most = std::max(around_.most, t[0]);
+      around_.mean += t[0] / double(colours_.size());
+    }
+  }
+
+  void compare(const Image& target, int i, Errors& errors) const {
+    const Layout& l = names_.target;
+    const Triple wanted = expected(names_, colours_[i], around_);
+    Triple terms = {};
+    if (l.type == "32f") terms = largestTerms(names_, colours_[i], around_);
+    bool isExact = true;
+    for (int c = 0; c < components(l); ++c) {
+      const double got = target.value(*locate(l, c, i * wide_, 0, target.width, 1));
+      const double error =
+          l.type == "32f" ? floatError(got, wanted[c], terms[c]) : countError(c, got, wanted[c]);
+      const bool differs = l.type == "32f" ? float(got) != float(wanted[c]) : error != 0;
+      ++errors.values;
+      errors.differing += differs;
+      isExact = isExact && !differs;
+      if (error > errors.largest) errors.largest = error, errors.worst = colours_[i];
+    }
+    ++errors.colours;
+    errors.differingColours += !isExact;
+  }
+
+  double countError(int c, double got, double wanted) const {
+    const Layout& l = names_.target;
+    // A hair more than a half: 2.5 may be 2.4999999 in double.
+    const double nearest = std::floor(std::clamp(wanted, l.low(), l.high()) + 0.5 + 1e-9);
+    const double d = std::abs(got - nearest);
+    const bool isHue = c == 0 && (l.space == "HLS" || l.space == "HSV");
+    return isHue ? std::min(d, l.high() - l.low() - d) : d;
+  }
+
+  static double floatError(double got, double wanted, double term) {
+    const double most = std::max({std::abs(wanted), term, 0x1p-126});
+    return std::abs(got - wanted) / std::ldexp(1, std::ilogb(most) - 23);
+  }
+
+  const Subject& subject_;
+  const Names& names_;
+  const int wide_, step_;
+  std::mt19937 random_;
+  std::vector<Triple> colours_;
+  Surroundings around_;
+};
+
+std::string share(long long part, long long all) {
+  char text[32];
+  if (part > 0 && part * 100000 < all) return "< 0.001 %";
+  std::snprintf(text, sizeof text, part == 0 ? "0" : "%.3f %%", 100.0 * double(part) / double(all));
+  return text;
+}
+
+std::string row(const Subject& s, const Errors& e, bool isFirst) {
+  const std::string &from = s.names.source.type, &into = s.names.target.type;
+  char largest[32];
+  std::snprintf(largest, sizeof largest, into == "32f" ? "%.2f ulp" : "%.0f", e.largest);
+  std::string text = "| | | ";
+  if (isFirst)
+    text = std::string("| ") + s.family->name + " | " + s.family->formula + " | " + s.family->source;
+  return text + " | " + (from == into ? from : from + " to " + into) + " | " + largest + " | " +
+         share(e.differing, e.values) + " | " + share(e.differingColours, e.colours) + " |\n";
+}
+
+// In counts or units in the last place.
+double limit(const Subject& s) {
+  const std::string family = s.family->name;
+  if (s.names.target.type != "32f") return family == "LUV to RGB" && s.names.target.type != "8u" ? 14 : 1;
+  if (family == "RGB to HLS") return 256;
+  return family.find("LUV") != std::string::npos ? 10 : family == "HLS to RGB" ? 5 : 4;
+}
+
+}  // namespace
+
+void Errors::add(const Errors& e) {
+  if (e.largest > largest) largest = e.largest, worst = e.worst;
+  values += e.values, differing += e.differing;
+  colours += e.colours, differingColours += e.differingColours;
+}
+
+Errors measure(const Subject& s, int step) {
+  const int slices =
+      s.names.source.elementSize() == 1 ? 255 / step + 1 : std::max(1, kWideSlices / (step * step));
+  Errors halves[2];
+  const auto run = [&](int half) {
+    Slice slice(s, step);
+    for (int k = half; k < slices; k += 2) halves[half].add(slice.measure(k));
+  };
+  std::thread other(run, 1);
+  run(0);
+  other.join();
+  halves[0].add(halves[1]);
+  return halves[0];
+}
+
+std::string complaint(const Subject& s, const Errors& e, double share) {
+  char text[200] = "";
+  const bool isMatrix = s.family->isMatrix && s.names.source.type == "8u" && s.names.target.type == "8u";
+  if (e.largest > limit(s))
+    std::snprintf(text, sizeof text, "%s is %g off, of %.9g %.9g %.9g", s.entry->name.c_str(), e.largest,
+                  e.worst[0], e.worst[1], e.worst[2]);
+  else if (isMatrix && double(e.differingColours) > share * double(e.colours))
+    std::snprintf(text, sizeof text, "%s differs for %lld of %lld colours", s.entry->name.c_str(),
+                  e.differingColours, e.colours);
+  return text;
+}
+
+namespace {
+
+std::string table(std::vector<std::string>* complaints) {
+  std::string text =
+      "| Family | Formula | Source | Elements | Largest error | Values that differ | Colours that differ |\n"
+      "|---|---|---|---|---|---|---|\n";
+  const Family* last = nullptr;
+  for (const Subject& s : subjects()) {
+    const Errors e = measure(s, 1);
+    const std::string bad = complaint(s, e, 0.005);
+    if (!bad.empty()) complaints->push_back(bad);
+    text += row(s, e, s.family != last);
+    last = s.family;
+  }
+  return text;
+}
+
+// FNV-1a.
+class Hash {
+ public:
+  template <class Bytes>
+  void add(const Bytes& bytes) {
+    for (const auto b : bytes) value_ = (value_ ^ uint8_t(b)) * 0x100000001b3;
+  }
+  std::string text() const {
+    char text[20];
+    std::snprintf(text, sizeof text, "%016llx", static_cast<unsigned long long>(value_));
+    return text;
+  }
+
+ private:
+  uint64_t value_ = 0xcbf29ce484222325;
+};
+
+}  // namespace
+
+std::string fingerprint() {
+  Hash hash;
+  std::mt19937 random(1);
+  for (const Entry& e : entries())
+    for (QoriSize size : {QoriSize{38, 13}, {2003, 8}}) {
+      const Names n = parse(e.name);
+      const QoriSize from = sourceSize(e, size);
+      Image source(n.source, from.width, from.height, 0), target(n.target, size.width, size.height, 0);
+      source.fillRandom(random);
+      if (e.run(callOf(e, source, target)) != qorStsNoErr) throw std::runtime_error(e.name);
+      for (const auto& plane : target.copy()) hash.add(plane);
+    }
+  return hash.text();
+}
+
+std::string section(std::vector<std::string>* complaints) {
+  return R"(8-bit sources: all 2^24 colours. Wider ones: 64 samples of 65536 colours, every second of them near black,
+the corners of the range among them. Errors are counts off the formula in double precision, rounded, draws
+up; for floats units in the last place (ulp) of the largest number that the formula adds or subtracts.
+Values differ that aren't the formula's result rounded to the type.
+
+)" + table(complaints) +
+         R"(
+The functions of a family differ in their layout alone; one of them was measured. What only moves samples is
+exact, means of chroma are rounded half up. `qor_accuracy --write docs/library.md` measures anew. A test compares
+this fingerprint of results of all functions, which is the same for all code paths and builds:
+`)" + fingerprint() +
+         "`\n";
+}

@@ -1,0 +1,25 @@
+// Every family's results against its formula: random samples miss what wraps at the edges.
+//
+// Every fifth value of each 8-bit component, both ends included; qor_accuracy takes all.
+#include "accuracy.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+TEST(Accuracy, IsACountForIntegersAndSomeUnitsInTheLastPlaceForFloats) {
+  // A slightly wrong constant stays within one count but shows in many colours.
+  for (const Subject& s : subjects()) EXPECT_EQ(complaint(s, measure(s, 5), 0.01), "");
+}
+
+TEST(Accuracy, IsWhatTheDocumentationSays) {
+  std::stringstream text;
+  text << std::ifstream(QOR_DOCUMENTATION).rdbuf();
+  EXPECT_NE(text.str().find(fingerprint()), std::string::npos)
+      << "the library's results have changed: qor_accuracy --write " << QOR_DOCUMENTATION;
+}
+
+}  // namespace
