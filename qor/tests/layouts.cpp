@@ -39,9 +39,10 @@ void readChannels(Layout& l, const std::string& token) {
 }
 
 // A fourth channel that has no partner on the other side, or is marked as alpha
-// on the destination's side, takes no part.
+// on the destination's side, takes no part. C4 alone has four channels of a kind.
 void matchAlpha(Names& n, const std::string& sourceToken, const std::string& targetToken, bool givesAlpha) {
-  const bool copied = n.source.hasAlpha && n.target.hasAlpha && sourceToken != targetToken;
+  const bool differ = sourceToken != targetToken || targetToken == "C4";
+  const bool copied = n.source.hasAlpha && n.target.hasAlpha && differ;
   n.source.hasAlpha = copied;
   n.target.hasAlpha = copied || givesAlpha;
   for (Layout* l : {&n.source, &n.target})

@@ -1,66 +1,51 @@
 // Bit reduction: against a second error diffusion that pushes instead of pulling.
-#include <fenv.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 
-#include "pixels.h"
-#include "qorcc.h"
+#include "calls.h"
 
 namespace {
-
-struct Parameters {
-  int noise;
-  QoriDitherType dither;
-  int levels;
-};
-
-struct Entry {
-  std::string name, sourceType, targetType;
-  int perPixel, channels;
-  QorStatus (*run)(const void*, int, void*, int, QoriSize, Parameters);
-};
-
-const Entry kEntries[] = {
-#define QORCC_REDUCE(name, sourceType, targetType, perPixel, channels)                                   \
-  {#name,                                                                                                \
-   #sourceType,                                                                                          \
-   #targetType,                                                                                          \
-   perPixel,                                                                                             \
-   channels,                                                                                             \
-   [](const void* s, int sStep, void* d, int dStep, QoriSize size, Parameters p) {                       \
-     return name(static_cast<const Qor##sourceType*>(s), sStep, static_cast<Qor##targetType*>(d), dStep, \
-                 size, p.noise, p.dither, p.levels);                                                     \
-   }},
-#include "qorccparameters.def"
-};
 
 class Case {
  public:
   Case(const Entry& e, int width, int height)
       : entry(e),
         size{width, height},
-        source(e.sourceType, 1, width * e.perPixel, height, 3),
-        target(e.targetType, 1, width * e.perPixel, height, 6) {}
-
-  QorStatus run(Parameters p) {
-    return entry.run(source.plane(), source.step, target.plane(), target.step, size, p);
+        names_(parse(e.name)),
+        source_(names_.source, width, height, 3),
+        target_(names_.target, width, height, 6) {
+    std::mt19937 random(3);
+    source_.fillRandom(random);
   }
+
+  QorStatus run(QoriDitherType dither, int levels) {
+    Call c = callOf(entry, source_, target_);
+    c.noise = 0, c.dither = dither, c.levels = levels;
+    return entry.run(c);
+  }
+
+  int channels() const { return names_.source.hasAlpha ? 4 : std::min(3, names_.source.channels); }
 
   // In levels, as a fraction.
   double place(int x, int y, int c, int levels) const {
-    const double v = source.value(0, x * entry.perPixel + c, y);
-    return (v - source.type.low) * (levels - 1) / source.type.span();
+    const Layout& l = names_.source;
+    return (source_.value({0, y, x * l.channels + c}) - l.low()) * (levels - 1) / (l.high() - l.low());
   }
   double valueOf(int level, int levels) const {
-    return target.type.low + std::floor(level * target.type.span() / (levels - 1) + 0.5);
+    const Layout& l = names_.target;
+    return l.low() + std::floor(level * (l.high() - l.low()) / (levels - 1) + 0.5);
   }
-  double out(int x, int y, int c) const { return target.value(0, x * entry.perPixel + c, y); }
+  double out(int x, int y, int c) const { return target_.value({0, y, x * names_.target.channels + c}); }
 
   const Entry& entry;
   const QoriSize size;
-  Pixels source, target;
+
+ private:
+  const Names names_;
+  Image source_, target_;
 };
 
 // What an element's error gives to the element dx, dy away.
@@ -127,8 +112,8 @@ std::vector<int> diffused(const Case& c, int channel, int levels, const Spread& 
 }
 
 void compare(Case& c, int levels, QoriDitherType dither, const Spread& spread) {
-  ASSERT_EQ(c.run({0, dither, levels}), qorStsNoErr);
-  for (int channel = 0; channel < c.entry.channels; ++channel) {
+  ASSERT_EQ(c.run(dither, levels), qorStsNoErr);
+  for (int channel = 0; channel < c.channels(); ++channel) {
     const std::vector<int> wanted = diffused(c, channel, levels, spread);
     for (int i = 0; i < int(wanted.size()); ++i)
       ASSERT_EQ(c.out(i % c.size.width, i / c.size.width, channel), c.valueOf(wanted[i], levels))
@@ -137,20 +122,13 @@ void compare(Case& c, int levels, QoriDitherType dither, const Spread& spread) {
   }
 }
 
-TEST(ReduceBits, MatchesAPushingReferenceAndTouchesNothingElse) {
-  std::mt19937 random(3);
-  for (const Entry& e : kEntries)
-    for (int width : {1, 2, 7, 63}) {
+TEST(ReduceBits, MatchesAPushingReference) {
+  for (const Entry& e : entries())
+    for (int width : {1, 2, 3, 7, 63, 70, 300}) {
+      if (e.extra != "Reduce" || HasFailure()) continue;
       Case c(e, width, 6);
-      c.source.fillRandom(random);
-      const auto before = c.source.copy();
-      const Pixels fresh(e.targetType, 1, 4, 1, 0);
       for (const auto& [dither, spread] : spreads())
         for (int levels : {2, 3, 255, 256}) compare(c, levels, dither, spread);
-      if (HasFailure()) return;
-      EXPECT_TRUE(before == c.source.copy() && c.source.hasCleanPadding() && c.target.hasCleanPadding());
-      const bool hasAlpha = e.channels < e.perPixel;
-      EXPECT_TRUE(!hasAlpha || c.out(0, 0, 3) == fresh.value(0, 3, 0)) << e.name;
     }
 }
 
@@ -221,48 +199,12 @@ TEST(ReduceBits, NoiseStaysInsideItsAmplitudeAndRepeats) {
   }
 }
 
-TEST(ReduceBits, StrangeFloatsSaturateAndOrdinaryOnesRaiseNoFlag) {
+TEST(ReduceBits, StrangeFloatsSaturate) {
   const Qor32f in[6] = {-1e30f, 1e30f, HUGE_VALF, -HUGE_VALF, std::nanf(""), 0.5f};
   for (const auto& [dither, spread] : spreads()) {
     Qor16s out[6];
     ASSERT_EQ(qoriReduceBits_32f16s_C1R(in, 24, out, 12, {6, 1}, 0, dither, 3), qorStsNoErr);
     EXPECT_EQ(std::vector<int>(out, out + 6), (std::vector<int>{-32768, 32767, 32767, -32768, -32768, 0}));
-  }
-  std::mt19937 random(4);
-  for (const Entry& e : kEntries) {
-    Case c(e, 33, 4);
-    c.source.fillRandom(random);
-    feclearexcept(FE_ALL_EXCEPT);
-    ASSERT_EQ(c.run({20, qorDitherJJN, 3}), qorStsNoErr);
-    EXPECT_EQ(fetestexcept(FE_ALL_EXCEPT & ~FE_INEXACT), 0) << e.name;
-  }
-}
-
-TEST(ReduceBits, WrongArgumentsAreRefusedAndNothingIsWritten) {
-  for (const Entry& e : kEntries) {
-    Case c(e, 5, 3);
-    const auto before = c.target.copy();
-    const Parameters good = {0, qorDitherFS, 3};
-    const auto run = [&](const void* s, int sStep, void* d, int dStep, QoriSize size, Parameters p) {
-      return e.run(s, sStep, d, dStep, size, p);
-    };
-    const void* s = c.source.plane();
-    void* d = c.target.plane();
-    const int sRow = 5 * e.perPixel * c.source.type.bytes, dRow = 5 * e.perPixel * c.target.type.bytes;
-    EXPECT_EQ(run(nullptr, sRow, d, dRow, c.size, good), qorStsNullPtrErr);
-    EXPECT_EQ(run(s, sRow, nullptr, dRow, c.size, good), qorStsNullPtrErr);
-    EXPECT_EQ(run(s, sRow, d, dRow, {0, 3}, good), qorStsSizeErr);
-    EXPECT_EQ(run(s, sRow, d, dRow, {5, -1}, good), qorStsSizeErr);
-    EXPECT_EQ(run(s, sRow - 1, d, dRow, c.size, good), qorStsStepErr);
-    EXPECT_EQ(run(s, sRow, d, dRow - 1, c.size, good), qorStsStepErr);
-    const int most = c.target.type.bytes == 1 ? 256 : 65536;
-    for (const Parameters& p : {Parameters{-1, qorDitherFS, 3},
-                                {101, qorDitherFS, 3},
-                                {0, qorDitherFS, 1},
-                                {0, qorDitherFS, most + 1},
-                                {0, QoriDitherType(5), 3}})
-      EXPECT_EQ(run(s, sRow, d, dRow, c.size, p), qorStsBadArgErr) << e.name;
-    EXPECT_TRUE(before == c.target.copy()) << e.name;
   }
 }
 

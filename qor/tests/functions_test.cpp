@@ -1,4 +1,4 @@
-// Every function against the reference: values, bytes that must stay, sources.
+// Every function but mosaics against the reference: values, bytes that must stay, sources.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -21,8 +21,11 @@ struct Mean {
 // How far a result may lie from the rounded reference, in counts of an integer,
 // or as a share of the value (of 1, if that is more) for floats.
 double tolerance(const Names& n) {
-  if (n.base.starts_with("ToneMap")) return 1;
-  if (n.source.space == n.target.space || n.target.space == "YCoCg" || n.source.space == "YCoCg") return 0;
+  const bool isCurve = n.base.starts_with("ToneMap") || n.base.starts_with("Gamma");
+  const bool moves = n.source.space == n.target.space && !isCurve && !n.base.starts_with("ColorTwist");
+  if (moves || n.target.space == "YCoCg" || n.source.space == "YCoCg") return 0;
+  // Imaginary colours: v' near 0 comes from a difference in single precision.
+  if (n.source.space == "LUV" && n.target.elementSize() == 2) return 14;
   if (n.target.type != "32f") return 1;
   // u* and v* are 13 L times a difference of two fractions near 0.2 and 0.5.
   return n.target.space == "LUV" ? 2e-4 : n.source.space == "LUV" ? 5e-5 : 1e-6;
@@ -60,8 +63,10 @@ class Comparison {
   // False after the first failure.
   bool run() {
     const auto before = source_.copy();
-    const Call call = callOf(entry_, source_, target_);
-    for (int i = 0; i < 3; ++i) around_.coeffs[i] = call.coeffs[i];
+    Call call = callOf(entry_, source_, target_);
+    call.dither = qorDitherNone, call.noise = 0;
+    untouched_ = target_.copy();
+    around_ = Surroundings(call);
     EXPECT_EQ(entry_.run(call), qorStsNoErr) << where();
     EXPECT_TRUE(before == source_.copy()) << where() << ": source changed";
     measureSource();
@@ -95,10 +100,17 @@ class Comparison {
       for (int x = 0; x < source_.width; ++x) {
         Triple t = {};
         for (int c = 0; c < sourceComponents(); ++c) t[c] = source_.component(c, x, y);
+        if (source_.layout.hasAlpha) around_.fourth = source_.component(3, x, y);
+        if (target_.layout.hasAlpha) add(3, x, y, fourth(t));
         t = expected(names_, t, around_);
         for (int c = 0; c < targetComponents(); ++c) add(c, x, y, t[c]);
-        if (target_.layout.hasAlpha) add(3, x, y, source_.layout.hasAlpha ? source_.component(3, x, y) : 7);
       }
+  }
+
+  double fourth(const Triple& source) const {
+    if (!source_.layout.hasAlpha) return 7;
+    if (entry_.extra == "Twist") return twisted(around_.twist[3], source, around_.fourth);
+    return entry_.extra == "Reduce" ? expected(names_, {around_.fourth}, around_)[0] : around_.fourth;
   }
 
   void add(int c, int x, int y, double v) {
@@ -150,7 +162,7 @@ class Comparison {
           for (int i = 0; i < target_.layout.elementSize(); ++i)
             written[target_.offset(key.first) + i] = true;
       for (size_t i = 0; i < written.size(); ++i)
-        if (!written[i] && target_.plane(p)[i] != 0xA5) {
+        if (!written[i] && target_.plane(p)[i] != untouched_[p][i]) {
           ADD_FAILURE() << where() << " plane " << p << " byte " << i << " written, of a step of "
                         << target_.step(p);
           return false;
@@ -162,6 +174,7 @@ class Comparison {
   const Entry& entry_;
   const Names names_;
   Image source_, target_;
+  std::vector<std::vector<uint8_t>> untouched_;
   Surroundings around_;
   std::map<std::pair<Location, int>, Mean> wanted_;
 };
@@ -172,21 +185,25 @@ TEST(Functions, AreFourHundredAndEightyThree) {
   for (const Entry& e : entries()) EXPECT_FALSE(parse(e.name).base.empty()) << e.name;
 }
 
-TEST(Conversions, GiveTheReferenceValuesAndTouchNothingElse) {
-  // Heights: groups of two and four lines with every remainder.
-  for (const Entry& e : conversions()) {
+bool isRight(const Entry& e, QoriSize size, int padding) {
+  return Comparison(e, size.width, size.height, padding, unsigned(size.width * 100 + size.height)).run();
+}
+
+TEST(Functions, GiveTheReferenceValuesAndTouchNothingElse) {
+  for (const Entry& e : entries()) {
+    if (e.isMosaic()) continue;
     for (int width = 1; width <= 70; ++width)
-      if (!Comparison(e, width, 1 + width % 8, 5, unsigned(width)).run()) return;
-    for (int height = 1; height <= 8; ++height)
+      if (!isRight(e, {width, 1 + width % 8}, 5)) return;
+    for (int height = 1; height <= 8; ++height)  // groups of two and four lines with every remainder
       for (int width : {1, 2, 3, 5, 18})
-        if (!Comparison(e, width, height, 5, unsigned(height)).run()) return;
+        if (!isRight(e, {width, height}, 5)) return;
   }
 }
 
-TEST(Conversions, AreTheSameAcrossTiles) {
-  for (const Entry& e : conversions())
+TEST(Functions, AreTheSameAcrossTiles) {
+  for (const Entry& e : entries())
     for (QoriSize size : {QoriSize{255, 2}, {1047, 3}, {4133, 1}})
-      if (!Comparison(e, size.width, size.height, size.width % 2, 7).run()) return;
+      if (!e.isMosaic() && !isRight(e, size, size.width % 2)) return;
 }
 
 }  // namespace
