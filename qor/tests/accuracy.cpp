@@ -10,42 +10,47 @@ namespace {
 
 constexpr int kSliceColours = 65536, kWideSlices = 64;
 
-// A row of colours, converted at once. Colours are two pixels wide where chroma is.
+// Colours in a row, converted at once. Each fills a block of chroma.
 class Slice {
  public:
   Slice(const Subject& s, int step)
       : subject_(s),
         names_(s.names),
         wide_(std::max(names_.source.blockWidth, names_.target.blockWidth)),
+        tall_(std::max(names_.source.blockHeight, names_.target.blockHeight)),
         step_(step) {}
 
   Errors measure(int k) {
     makeColours(k);
-    const QoriSize size = {int(colours_.size()) * wide_, 1};
-    Image source(names_.source, size.width, 1, 0), target(names_.target, size.width, 1, 0);
-    for (int i = 0; i < size.width; ++i)
-      for (int c = 0; c < components(names_.source); ++c)
-        if (const auto at = locate(names_.source, c, i, 0, size.width, 1))
-          source.setValue(*at, colours_[i / wide_][c]);
-    for (size_t i = 0; i < colours_.size(); ++i)  // what the type made of them
-      for (int c = 0; c < components(names_.source); ++c)
-        colours_[i][c] = source.value(*locate(names_.source, c, int(i) * wide_, 0, size.width, 1));
+    const int count = int(colours_.size());
+    Image source(names_.source, count * wide_, tall_, 0), target(names_.target, count * wide_, tall_, 0);
+    for (int i = 0; i < count * wide_ * tall_; ++i)
+      setPixel(source, i % (count * wide_), i / (count * wide_));
+    for (int i = 0; i < count; ++i)  // what the type made of them
+      for (int c = 0; c < components(names_.source); ++c) colours_[i][c] = source.component(c, i * wide_, 0);
     Call call = callOf(*subject_.entry, source, target);
     call.dither = qorDitherNone, call.noise = 0;
     around_ = Surroundings(call);
     measureSurroundings();
     if (subject_.entry->run(call) != qorStsNoErr) throw std::runtime_error(subject_.entry->name);
     Errors errors;
-    for (size_t i = 0; i < colours_.size(); ++i) compare(target, int(i), errors);
+    for (int i = 0; i < count; ++i) compare(target, i, errors);
     return errors;
   }
 
  private:
-  static int components(const Layout& l) { return l.channels == 1 && !l.planar ? 1 : 3; }
+  static int components(const Layout& l) { return l.channels == 1 && !l.planar && !l.bits16[0] ? 1 : 3; }
+
+  void setPixel(Image& source, int x, int y) const {
+    for (int c = 0; c < components(names_.source); ++c)
+      if (const auto at = locate(names_.source, c, x, y, source.width, source.height))
+        source.setValue(*at, colours_[x / wide_][c]);
+  }
 
   void makeColours(int k) {
     colours_.clear();
     if (names_.source.elementSize() == 1) return makeBytes(k);
+    if (names_.source.bits16[0]) return makeWords();
     random_.seed(unsigned(k));
     for (int i = 0; i < kSliceColours; ++i) colours_.push_back({any(i), any(i), any(i)});
     const double low = names_.source.low(), high = names_.source.high();
@@ -61,6 +66,11 @@ class Slice {
     const double low = names_.source.low();
     for (int b = 0; b < 256; b += step_)
       for (int c = 0; c < 256; c += step_) colours_.push_back({low + k * step_, low + b, low + c});
+  }
+
+  // All 16-bit pixels; whichever component they stand for.
+  void makeWords() {
+    for (int i = 0; i < 65536; ++i) colours_.push_back({double(i), double(i), double(i)});
   }
 
   // Every second colour is near black.
@@ -86,9 +96,11 @@ class Slice {
     if (l.type == "32f") terms = largestTerms(names_, colours_[i], around_);
     bool isExact = true;
     for (int c = 0; c < components(l); ++c) {
-      const double got = target.value(*locate(l, c, i * wide_, 0, target.width, 1));
-      const double error =
-          l.type == "32f" ? floatError(got, wanted[c], terms[c]) : countError(c, got, wanted[c]);
+      const int x = i * wide_;
+      const double got = target.value(*locate(l, c, x, 0, target.width, tall_));
+      const double error = l.bits16[0]       ? (fieldFits(l, int(got), x, 0, c, wanted[c], 1) ? 0 : 2)
+                           : l.type == "32f" ? floatError(got, wanted[c], terms[c])
+                                             : countError(c, got, wanted[c]);
       const bool differs = l.type == "32f" ? float(got) != float(wanted[c]) : error != 0;
       ++errors.values;
       errors.differing += differs;
@@ -109,13 +121,14 @@ class Slice {
   }
 
   static double floatError(double got, double wanted, double term) {
+    if (!std::isfinite(got)) return HUGE_VAL;
     const double most = std::max({std::abs(wanted), term, 0x1p-126});
     return std::abs(got - wanted) / std::ldexp(1, std::ilogb(most) - 23);
   }
 
   const Subject& subject_;
   const Names& names_;
-  const int wide_, step_;
+  const int wide_, tall_, step_;
   std::mt19937 random_;
   std::vector<Triple> colours_;
   Surroundings around_;
@@ -130,12 +143,13 @@ std::string share(long long part, long long all) {
 
 std::string row(const Subject& s, const Errors& e, bool isFirst) {
   const std::string &from = s.names.source.type, &into = s.names.target.type;
+  const std::string types = from == into ? from : from + " to " + into;
   char largest[32];
   std::snprintf(largest, sizeof largest, into == "32f" ? "%.2f ulp" : "%.0f", e.largest);
   std::string text = "| | | ";
   if (isFirst)
     text = std::string("| ") + s.family->name + " | " + s.family->formula + " | " + s.family->source;
-  return text + " | " + (from == into ? from : from + " to " + into) + " | " + largest + " | " +
+  return text + " | " + types + (s.sharesChroma() ? ", shared chroma" : "") + " | " + largest + " | " +
          share(e.differing, e.values) + " | " + share(e.differingColours, e.colours) + " |\n";
 }
 
@@ -153,8 +167,9 @@ void Errors::add(const Errors& e) {
 }
 
 Errors measure(const Subject& s, int step) {
-  const int slices =
-      s.names.source.elementSize() == 1 ? 255 / step + 1 : std::max(1, kWideSlices / (step * step));
+  const int slices = s.names.source.bits16[0]            ? 1
+                     : s.names.source.elementSize() == 1 ? 255 / step + 1
+                                                         : std::max(1, kWideSlices / (step * step));
   Errors halves[2];
   const auto run = [&](int half) {
     Slice slice(s, step);
@@ -238,8 +253,8 @@ Values differ that aren't the formula's result rounded to the type.
 
 )" + table(complaints) +
          R"(
-The functions of a family differ in their layout alone; one of them was measured. What only moves samples is
-exact, means of chroma are rounded half up. `qor_accuracy --write docs/library.md` measures anew. A test compares
+Shared chroma: 4:2:0, 4:2:2 and 4:1:1, of blocks of one colour. The functions of a row differ in their layout
+alone; one of them was measured, a test takes every fifth value through all. What only moves samples is exact. `qor_accuracy --write docs/library.md` measures anew. A test compares
 this fingerprint of results of all functions, which is the same for all code paths and builds:
 `)" + fingerprint() +
          "`\n";

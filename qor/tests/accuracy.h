@@ -1,7 +1,7 @@
 // accuracy.h: how far do the library's results lie from the published formulas?
 //
-// One row of the table for each family of transforms and pair of element types, of
-// which one function speaks for all: the others differ in their layout alone.
+// One row of the table for each family of transforms, pair of element types and kind of
+// chroma, of which one function speaks for all: the others differ in their layout alone.
 #ifndef QOR_TESTS_ACCURACY_H
 #define QOR_TESTS_ACCURACY_H
 
@@ -21,9 +21,14 @@ struct Subject {
   const Family* family;
   const Entry* entry;
   Names names;
+
+  bool sharesChroma() const { return names.source.subsampled() || names.target.subsampled(); }
 };
 
-// In the order of the families' list. Throws if a conversion has no family.
+// All functions that have a formula; of each family and pair of types one with and one
+// without shared chroma, in the order of the families' list. Throws if a conversion
+// has no family.
+const std::vector<Subject>& functions();
 const std::vector<Subject>& subjects();
 
 // Of counts of an integer or of units in the last place of a float's largest term.

@@ -98,20 +98,29 @@ int typeOf(const Layout& l) {
 
 }  // namespace
 
-const std::vector<Subject>& subjects() {
+const std::vector<Subject>& functions() {
   static const std::vector<Subject> all = [] {
-    std::map<std::tuple<const Family*, int, int>, std::pair<int, const Entry*>> best;
+    std::vector<Subject> list;
     for (const Entry& e : entries()) {
       const Names n = parse(e.name);
-      const Family* family = familyOf(n);
-      if (!family) continue;
-      const int cost = complications(e, n.source) + complications(e, n.target);
-      auto [at, isNew] = best.try_emplace({family, typeOf(n.source), typeOf(n.target)}, cost, &e);
-      if (cost < at->second.first) at->second = {cost, &e};
+      if (const Family* family = familyOf(n)) list.push_back({family, &e, n});
+    }
+    return list;
+  }();
+  return all;
+}
+
+const std::vector<Subject>& subjects() {
+  static const std::vector<Subject> all = [] {
+    std::map<std::tuple<const Family*, int, int, bool>, std::pair<int, const Subject*>> best;
+    for (const Subject& s : functions()) {
+      const int cost = complications(*s.entry, s.names.source) + complications(*s.entry, s.names.target);
+      auto [at, isNew] = best.try_emplace(
+          {s.family, typeOf(s.names.source), typeOf(s.names.target), s.sharesChroma()}, cost, &s);
+      if (cost < at->second.first) at->second = {cost, &s};
     }
     std::vector<Subject> list;
-    for (const auto& [key, value] : best)
-      list.push_back({std::get<0>(key), value.second, parse(value.second->name)});
+    for (const auto& [key, value] : best) list.push_back(*value.second);
     return list;
   }();
   return all;

@@ -39,12 +39,6 @@ double distance(const Layout& l, int component, double got, double wanted) {
   return l.type == "32f" ? d / std::max(1.0, std::abs(wanted)) : d;
 }
 
-// Bayer's threshold by its recursive definition, 0..15.
-int bayer(int x, int y) {
-  const int two[2][2] = {{0, 2}, {3, 1}};
-  return 4 * two[y & 1][x & 1] + two[y / 2 & 1][x / 2 & 1];
-}
-
 class Comparison {
  public:
   Comparison(const Entry& e, int width, int height, int padding, unsigned seed)
@@ -121,7 +115,10 @@ class Comparison {
   bool compare() {
     for (const auto& [key, mean] : wanted_) {
       const Location at = key.first;
-      const bool good = target_.layout.bits16[0] ? fieldFits(at, mean) : valueFits(at, mean);
+      const Layout& l = target_.layout;
+      const bool good = l.bits16[0] ? fieldFits(l, int(target_.value(at)), at.index, at.row, mean.component,
+                                                mean.value(), tolerance(names_))
+                                    : valueFits(at, mean);
       if (good) continue;
       ADD_FAILURE() << where() << " plane " << at.plane << " row " << at.row << " element " << at.index
                     << ": " << target_.value(at) << ", wanted "
@@ -134,19 +131,6 @@ class Comparison {
   bool valueFits(const Location& at, const Mean& mean) const {
     const double got = target_.value(at), wanted = rounded(mean.value(), target_.layout);
     return distance(target_.layout, mean.component, got, wanted) <= tolerance(names_);
-  }
-
-  // The field may come from any 8-bit value within the tolerance.
-  bool fieldFits(const Location& at, const Mean& mean) const {
-    const Layout& l = target_.layout;
-    const int field = l.order[mean.component], bits = l.bits16[field];
-    const int shift = field == 0 ? 0 : field == 1 ? l.bits16[0] : l.bits16[0] + l.bits16[1];
-    const int word = static_cast<int>(target_.value(at)), got = word >> shift & ((1 << bits) - 1);
-    const int step = 256 >> bits, threshold = l.dither ? bayer(at.index, at.row) * step / 16 : 0;
-    const auto cut = [&](double v) { return std::min(255, std::clamp(int(v), 0, 255) + threshold) / step; };
-    const double v = std::floor(std::clamp(mean.value(), 0.0, 255.0) + 0.5);
-    const bool rest = word >> (l.bits16[0] + l.bits16[1] + l.bits16[2]) == 0;
-    return rest && got >= cut(v - tolerance(names_)) && got <= cut(v + tolerance(names_));
   }
 
   // Bytes that hold no sample are as they were.

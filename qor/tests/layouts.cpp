@@ -1,5 +1,7 @@
 #include "layouts.h"
 
+#include <algorithm>
+#include <cmath>
 #include <regex>
 #include <tuple>
 #include <utility>
@@ -126,4 +128,25 @@ int rowElements(const Layout& l, int plane, int width) {
 
 int rowCount(const Layout& l, int plane, int height) {
   return plane == 0 ? height : (height + l.blockHeight - 1) / l.blockHeight;
+}
+
+namespace {
+
+// Bayer's threshold by its recursive definition, 0..15.
+int bayer(int x, int y) {
+  const int two[2][2] = {{0, 2}, {3, 1}};
+  return 4 * two[y & 1][x & 1] + two[y / 2 & 1][x / 2 & 1];
+}
+
+}  // namespace
+
+bool fieldFits(const Layout& l, int word, int x, int y, int component, double wanted, double tolerance) {
+  const int field = l.order[component], bits = l.bits16[field];
+  const int shift = field == 0 ? 0 : field == 1 ? l.bits16[0] : l.bits16[0] + l.bits16[1];
+  const int got = word >> shift & ((1 << bits) - 1);
+  const int step = 256 >> bits, threshold = l.dither ? bayer(x, y) * step / 16 : 0;
+  const auto cut = [&](double v) { return std::min(255, std::clamp(int(v), 0, 255) + threshold) / step; };
+  const double v = std::floor(std::clamp(wanted, 0.0, 255.0) + 0.5);
+  const bool rest = word >> (l.bits16[0] + l.bits16[1] + l.bits16[2]) == 0;
+  return rest && got >= cut(v - tolerance) && got <= cut(v + tolerance);
 }

@@ -44,6 +44,9 @@ struct Location {
 // sample of an odd last pixel). 16-bit pixels have one location for all.
 std::optional<Location> locate(const Layout&, int c, int x, int y, int width, int height);
 
+// Whether a field of the 16-bit pixel at x, y comes from an 8-bit value within the tolerance.
+bool fieldFits(const Layout&, int word, int x, int y, int component, double wanted, double tolerance);
+
 // Elements of a row and rows of a plane.
 int rowElements(const Layout&, int plane, int width);
 int rowCount(const Layout&, int plane, int height);
