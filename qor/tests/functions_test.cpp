@@ -182,7 +182,7 @@ TEST(Functions, GiveTheReferenceValuesAndTouchNothingElse) {
 
 TEST(Functions, AreTheSameAcrossTiles) {
   for (const Entry& e : entries())
-    for (QoriSize size : {QoriSize{255, 2}, {1047, 3}, {4133, 1}})
+    for (QoriSize size : {QoriSize{255, 2}, {1046, 3}, {1047, 3}, {4133, 1}})  // even ones without padding
       if (!e.isMosaic() && !isRight(e, size, size.width % 2)) return;
 }
 
