@@ -352,7 +352,8 @@ Triple largestTerms(const Names& n, const Triple& source, const Surroundings& ar
   if (n.target.space == "HLS") return {hueTerm(source, result[0]), result[1], result[2]};
   if (n.source.space == "HLS") {
     const auto [least, most] = std::minmax({plain[0], plain[1], plain[2]});
-    return each(plain, [&](double) { return std::max(2 * source[1], (most - least) * 6 * source[0]); });
+    const double term = std::max(2 * source[1], (most - least) * 6 * source[0]);
+    return {term, term, term};
   }
   if (n.target.space == "LUV") return luvTerms(source);
   if (n.source.space == "LUV") return rgbOfLuvTerms(source);
