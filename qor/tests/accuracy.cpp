@@ -260,8 +260,9 @@ Values differ that aren't the formula's result rounded to the type.
 )" + table(complaints) +
          R"(
 Shared chroma: 4:2:0, 4:2:2 and 4:1:1, of blocks of one colour. The functions of a row differ in their layout
-alone; one of them was measured, a test takes every fifth value through all. What only moves samples is exact. `qor_accuracy --write docs/library.md` measures anew. A test compares
-this fingerprint of results of all functions, which is the same for all code paths and builds:
+alone; one of them was measured, a test takes every fifth value through all. What only moves samples is exact.
+`qor_accuracy --write docs/library.md` measures anew. A test compares this fingerprint of results of all functions,
+which is the same for all code paths and builds:
 `)" + fingerprint() +
          "`\n";
 }
