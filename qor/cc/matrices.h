@@ -144,12 +144,21 @@ constexpr ToHalf toHalf(const Linear& a) {
 }
 
 // The factors of an input in 16 bits, each as a word times a small number that all
-// share: the number that loses least.
+// share: the number that loses least. Where luma counts whole, one chroma value that
+// rounds the wrong way does so for all 256 colours, so each costs half a unit.
 struct Shared {
   int times = 0;
   int16_t of[3] = {};
   bool isKnown = false;
 };
+constexpr int missed(double factor, int inUnits) {
+  int count = 0;
+  for (int v = -128; v < 128; ++v) {
+    const double exact = factor * v + 128 * 8 + 0.5 + 1e-9;  // above 0, where the cast is the floor
+    count += static_cast<int>(exact) - 128 * 8 != (inUnits * v + 32768) >> 16;
+  }
+  return count;
+}
 constexpr Shared sharedFactor(const double factor[3]) {
   Shared best;
   double leastLoss = 1e9;
@@ -164,7 +173,7 @@ constexpr Shared sharedFactor(const double factor[3]) {
         break;
       }
       s.of[i] = word(toNearest(wanted));
-      loss += magnitude(wanted - s.of[i]) * times;
+      loss += magnitude(wanted - s.of[i]) * times + 0.5 * missed(factor[i], s.of[i] * times);
     }
     if (!fits || loss >= leastLoss) continue;
     best = s;
