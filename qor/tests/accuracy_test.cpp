@@ -14,7 +14,7 @@ TEST(Accuracy, IsACountForIntegersAndSomeUnitsInTheLastPlaceForFloats) {
   for (const Subject& s : functions()) {
     // A slightly wrong constant stays within one count but shows in many colours.
     const bool isEightBit = s.names.source.elementSize() == 1;
-    ASSERT_EQ(complaint(s, measure(s, isEightBit ? 5 : 8), 0.015), "");
+    ASSERT_EQ(complaint(s, measure(s, isEightBit ? 5 : 8), 0.01), "");
   }
 }
 
