@@ -208,6 +208,9 @@ class Run {
       return own;
     }
     load_(source_, at, in_.rows(f_.sourceOrder));
+    // Numbers, not whatever was there, for the vector behind the last pixel.
+    for (int p = 0; p < f_.source.channels; ++p)
+      __builtin_memset(in_.bytes[p][0] + at.n * f_.sourceSize, 0, kRowBytes - kTileBytes);
     return in_.rows(kOrder_abc);
   }
 
