@@ -300,7 +300,7 @@ struct Job {
   const void* alpha;  // null: none
 };
 
-// Where chroma of the same resolution moves only from one place to another.
+// For samples that only move from one place to another.
 Copy directCopy(const Function& f) {
   if (f.transform.apply) return nullptr;
   const ChromaMove chroma = f.sourceOrder[1] == f.targetOrder[1] ? ChromaMove::kept : ChromaMove::swapped;
@@ -322,7 +322,8 @@ bool isTight(const Format& format, const ptrdiff_t* step, int width, int element
 
 bool isOneRow(const Job& job, const Share& rows) {
   const Function& f = job.f;
-  return int64_t{job.size.width} * (rows.last - rows.first) <= INT32_MAX &&
+  // One more tile's pixels are still an int.
+  return int64_t{job.size.width} * (rows.last - rows.first) <= INT32_MAX - kTilePixels &&
          isTight(f.source, job.source.step, job.size.width, f.sourceSize) &&
          isTight(f.target, job.target.step, job.size.width, f.targetSize);
 }

@@ -61,9 +61,6 @@ inline Vec bitXor(Vec a, Vec b) {
 inline Vec add16(Vec a, Vec b) {
   return QORCC_V(add_epi16)(a, b);
 }
-inline Vec sub16(Vec a, Vec b) {
-  return QORCC_V(sub_epi16)(a, b);
-}
 inline Vec add32(Vec a, Vec b) {
   return QORCC_V(add_epi32)(a, b);
 }

@@ -7,7 +7,6 @@
 #include "transforms.h"
 
 namespace qor {
-
 namespace {
 
 // The halves of a block of kVec pixels are, in each lane, its first and its last eight
@@ -31,7 +30,7 @@ struct ChromaFactors {
 struct LumaTerms {
   Vec firstEven, firstOdd, secondEven, secondOdd;
 
-  // Bytes of channel: natural order.
+  // A channel's bytes, in the order of memory.
   Vec bytes(const Halves& chroma) const {
     return pack16(upperWords(add32(firstEven, chroma.first), add32(firstOdd, chroma.first)),
                   upperWords(add32(secondEven, chroma.second), add32(secondOdd, chroma.second)));
