@@ -12,22 +12,59 @@ inline BytesOut toPlanes(const TileRows& rows) {
   return {{rows.plane[0], rows.plane[1], rows.plane[2]}};
 }
 
-// kVec pixels from pixel i of n; planes have room for a whole vector behind the last.
-inline void put(const BytesOut& out, int i, int n, const Vec3& v) {
-  if (!out.pixels) {
-    store(out.plane[0] + i, v.a);
-    store(out.plane[1] + i, v.b);
-    store(out.plane[2] + i, v.c);
-    return;
+// Planes have room for a whole vector behind the last pixel.
+struct PlanesOut {
+  uint8_t *a, *b, *c;
+
+  void put(int i, const Vec3& v) const {
+    store(a + i, v.a);
+    store(b + i, v.b);
+    store(c + i, v.c);
   }
-  uint8_t rest[4 * kVec];
-  uint8_t *whole = out.pixels + out.stride * i, *to = n - i < kVec ? rest : whole;
-  const Vec3 ordered = out.swapped ? Vec3{v.c, v.b, v.a} : v;
-  if (out.stride == 3)
-    store3<1>(to, ordered);
-  else
-    store4(to, {ordered.a, ordered.b, ordered.c, all8(out.alpha)});
-  if (to == rest) __builtin_memcpy(whole, rest, out.stride * (n - i));
+  void putLast(int i, int, const Vec3& v) const { put(i, v); }
+};
+
+struct ThreeOut {
+  uint8_t* pixels;
+
+  void put(int i, const Vec3& v) const { store3<1>(pixels + 3 * i, v); }
+  void putLast(int i, int count, const Vec3& v) const {
+    uint8_t rest[3 * kVec];
+    store3<1>(rest, v);
+    __builtin_memcpy(pixels + 3 * i, rest, 3 * count);
+  }
+};
+
+struct FourOut {
+  uint8_t* pixels;
+  Vec alpha;
+
+  void put(int i, const Vec3& v) const { store4(pixels + 4 * i, {v.a, v.b, v.c, alpha}); }
+  void putLast(int i, int count, const Vec3& v) const {
+    uint8_t rest[4 * kVec];
+    store4(rest, {v.a, v.b, v.c, alpha});
+    __builtin_memcpy(pixels + 4 * i, rest, 4 * count);
+  }
+};
+
+// A function of its own, with copies of its own: what is the same for all pixels stays in
+// registers, since no store could change it.
+template <class Out, class Pixels>
+[[gnu::noinline]] void putEach(const Out& whereto, const Pixels& of, int n) {
+  const Out out = whereto;
+  const Pixels pixels = of;
+  int i = 0;
+  for (; i + kVec <= n; i += kVec) out.put(i, pixels.at(i));
+  if (i < n) out.putLast(i, n - i, pixels.last(i, n - i));
+}
+
+// n pixels: `pixels.at(i)` has the kVec from pixel i, `pixels.last(i, count)` fewer at
+// the end. They heed out.swapped.
+template <class Pixels>
+void putAll(const BytesOut& out, const Pixels& pixels, int n) {
+  if (!out.pixels) return putEach(PlanesOut{out.plane[0], out.plane[1], out.plane[2]}, pixels, n);
+  if (out.stride == 3) return putEach(ThreeOut{out.pixels}, pixels, n);
+  putEach(FourOut{out.pixels, all8(out.alpha)}, pixels, n);
 }
 
 }  // namespace

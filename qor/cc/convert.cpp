@@ -83,7 +83,7 @@ Chroma chromaOf(const Function& f, const Matrix& matrix) {
   if (f.transform.apply == applyLuma) return Chroma::none;
   if (!f.transform.apply && f.source.half && f.target.half) return Chroma::halfToHalf;
   if (f.transform.apply != applyFixed) return Chroma::full;
-  if (f.source.half && matrix.fromHalf.isKnown) return Chroma::fromHalf;
+  if (f.source.half && matrix.fromLuma.times != 0) return Chroma::fromHalf;
   return f.target.half && matrix.luma.isKnown && matrix.toHalf.isKnown ? Chroma::toHalf : Chroma::full;
 }
 
@@ -228,11 +228,11 @@ class Run {
     if (held_[k].line != line || held_[k].x != at.x) {
       const bool inPairs = f_.source.half->elements == 2;
       f_.source.half->load(source_, at, in_.rows(inPairs ? kOrder_abc : f_.sourceOrder));
-      termsOfChroma(in_.rows(kOrder_abc), inPairs ? pairOrder() : ChromaOrder::planes, at.n, matrix_.fromHalf,
+      termsOfChroma(in_.rows(kOrder_abc), inPairs ? pairOrder() : ChromaOrder::planes, at.n, matrix_.fromLuma,
                     terms_[k]);
       held_[k] = {line, at.x};
     }
-    applyTerms(source_.row(0, at.y) + at.x, terms_[k], bytesOut(at, out), at.n, matrix_.fromHalf);
+    applyTerms(source_.row(0, at.y) + at.x, terms_[k], bytesOut(at, out), at.n, matrix_.fromLuma);
   }
 
   void rowFromPacked(const Place& at, const TileRows& out) {
@@ -242,7 +242,7 @@ class Run {
     // the pair before.
     const uint8_t lastChroma = at.x + at.n > 1 ? in[second] : kNeutralChroma;
     applyPacked(in, lumaAt, pairOrder() == ChromaOrder::swappedPairs, lastChroma, bytesOut(at, out), at.n,
-                matrix_.fromHalf);
+                matrix_.fromLuma);
   }
 
   ChromaOrder pairOrder() const {

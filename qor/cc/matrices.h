@@ -143,70 +143,20 @@ constexpr ToHalf toHalf(const Linear& a) {
   return r;
 }
 
-// The factors of an input in 16 bits, each as a word times a small number that all
-// share: the number that loses least. Where luma counts whole, one chroma value that
-// rounds the wrong way does so for all 256 colours, so each costs half a unit.
-struct Shared {
-  int times = 0;
-  int16_t of[3] = {};
-  bool isKnown = false;
-};
-constexpr int missed(double factor, int inUnits) {
-  int count = 0;
-  for (int v = -128; v < 128; ++v) {
-    const double exact = factor * v + 128 * 8 + 0.5 + 1e-9;  // above 0, where the cast is the floor
-    count += static_cast<int>(exact) - 128 * 8 != (inUnits * v + 32768) >> 16;
-  }
-  return count;
-}
-constexpr Shared sharedFactor(const double factor[3]) {
-  Shared best;
-  double leastLoss = 1e9;
-  for (int times = 1; times < 128; ++times) {
-    double loss = 0;
-    bool fits = true;
-    Shared s = {times, {}, true};
-    for (int i = 0; i < 3; ++i) {
-      const double wanted = factor[i] * 65536 / times;
-      if (magnitude(wanted) > 32767) {
-        fits = false;
-        break;
-      }
-      s.of[i] = word(toNearest(wanted));
-      loss += magnitude(wanted - s.of[i]) * times + 0.5 * missed(factor[i], s.of[i] * times);
-    }
-    if (!fits || loss >= leastLoss) continue;
-    best = s;
-    leastLoss = loss;
-  }
-  return best;
-}
-
-constexpr FromHalf fromHalf(const Linear& a) {
-  for (int i = 1; i < 3; ++i)
-    if (magnitude(a.m[i][0] - a.m[0][0]) > 1e-6) return {};
-  Shared of[3];
-  for (int j = 0; j < 3; ++j) {
-    const double column[3] = {a.m[0][j], j == 0 ? 0 : a.m[1][j], j == 0 ? 0 : a.m[2][j]};
-    of[j] = sharedFactor(column);
-    if (!of[j].isKnown) return {};
-  }
-  FromHalf r;
-  r.luma = of[0].of[0];
-  r.timesLuma = word(of[0].times);
-  for (int j = 0; j < 2; ++j) r.timesChroma[j] = word(of[j + 1].times);
-  for (int i = 0; i < 3; ++i) {
-    double middle = a.offset[i] * 255 + 0.5;
-    int ofMiddle = r.luma * r.timesLuma * 128;
-    for (int j = 0; j < 3; ++j) middle += 128 * a.m[i][j];
-    for (int j = 0; j < 2; ++j) {
-      r.chroma[i][j] = of[j + 1].of[i];
-      ofMiddle += r.chroma[i][j] * r.timesChroma[j] * 128;
-    }
-    r.offset[i] = toNearest(middle * 65536) - ofMiddle;
-  }
-  r.isKnown = true;
-  return r;
+// `times` sets how wide the sums are: 65536 / times for one count of the result.
+constexpr FromLuma fromLuma(const Linear& a, int times) {
+  const double wide = 65536.0 / times;
+  // Of bytes that go in 256 times as large, into products that lose 15 bits.
+  const auto factor = [&](double f) { return word(toNearest(f * wide * 128)); };
+  double middle = a.offset[1] * 255;
+  for (const double f : a.m[1]) middle += 128 * f;
+  return {factor(a.m[0][0]),
+          word(toNearest((middle - 128 + 0.5) * wide)),
+          factor(a.m[0][2] / 2),
+          factor(a.m[1][1]),
+          factor(a.m[1][2]),
+          factor(a.m[2][1] / 2),
+          word(times)};
 }
 
 // For elements that hold 0..1 as low..low + span.
@@ -224,7 +174,6 @@ constexpr Matrix forRange(const Linear& a, double low, double span) {
     r.fixed = fixedPoint(a);
     r.luma = lumaOf(a);
     r.toHalf = toHalf(a);
-    r.fromHalf = fromHalf(a);
   }
   return r;
 }

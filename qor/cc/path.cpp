@@ -33,6 +33,7 @@ namespace {
 #include "transforms_half.cpp"
 #include "transforms_hue.cpp"
 #include "transforms_linear.cpp"
+#include "transforms_luma.cpp"
 #include "transforms_ycocg.cpp"
 // Behind what they list.
 #include "demosaic.cpp"

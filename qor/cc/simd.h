@@ -100,9 +100,22 @@ inline Vec addPairs(Vec sum, Vec a, Vec b) {
   return add32(sum, multiplyPairs(a, b));
 #endif
 }
+// The upper word of each product of signed words.
+inline Vec multiplyHigh16(Vec a, Vec b) {
+  return QORCC_V(mulhi_epi16)(a, b);
+}
 // The low word of each product.
 inline Vec multiply16(Vec a, Vec b) {
   return QORCC_V(mullo_epi16)(a, b);
+}
+// a b / 2^15, rounded, of signed words.
+inline Vec multiplyRounded16(Vec a, Vec b) {
+#if defined(__SSSE3__)
+  return QORCC_V(mulhrs_epi16)(a, b);
+#else
+  const Vec high = multiplyHigh16(a, b), low = shiftRight16<14>(multiply16(a, b));
+  return add16(add16(high, high), _mm_avg_epu16(low, zero()));
+#endif
 }
 // a0 b0 + a1 b1, in words, for each pair of unsigned bytes a and signed bytes b. The
 // sums must be words.
@@ -122,22 +135,60 @@ inline Vec sumsOfPairs(Vec bytes) {
   return add16(bitAnd(bytes, all16(0xFF)), shiftRight16<8>(bytes));
 #endif
 }
-// The upper words of the double words: those of `even` in even places.
-inline Vec upperWords(Vec even, Vec odd) {
-#if defined(__AVX512VBMI__)
-  return _mm512_mask_blend_epi16(0xAAAAAAAA, shiftRight32<16>(even), odd);
-#elif defined(__SSE4_1__)
-  return QORCC_V(blend_epi16)(shiftRight32<16>(even), odd, 0xAA);
-#else
-  return bitOr(shiftRight32<16>(even), bitAnd(odd, all32(static_cast<int>(0xFFFF0000u))));
-#endif
-}
 // Rounded up.
 inline Vec mean8(Vec a, Vec b) {
   return QORCC_V(avg_epu8)(a, b);
 }
 inline Vec saturatingAdd8(Vec a, Vec b) {
   return QORCC_V(adds_epu8)(a, b);
+}
+// Signed.
+inline Vec saturatingAdd16(Vec a, Vec b) {
+  return QORCC_V(adds_epi16)(a, b);
+}
+// The same 16 bytes in each lane.
+struct alignas(16) Bytes16 {
+  uint8_t at[16];
+};
+inline Vec lanes(const Bytes16& m) {
+  const __m128i lane = _mm_load_si128(reinterpret_cast<const __m128i*>(&m));
+#if defined(__AVX512VBMI__)
+  return _mm512_broadcast_i32x4(lane);
+#elif defined(__AVX2__)
+  return _mm256_broadcastsi128_si256(lane);
+#else
+  return lane;
+#endif
+}
+constexpr Bytes16 placesOfPairs(int even, int odd) {
+  Bytes16 m = {};
+  for (int q = 0; q < 16; ++q)
+    m.at[q] = static_cast<uint8_t>(q / 4 * 4 + (q % 4 < 2 ? even : odd) * 2 + q % 2);
+  return m;
+}
+// The words `even` and `odd` of each pair to its two places.
+template <int even, int odd>
+inline Vec wordsOfPairs(Vec v) {
+#if defined(__SSSE3__)
+  static constexpr Bytes16 places = placesOfPairs(even, odd);
+  return QORCC_V(shuffle_epi8)(v, lanes(places));
+#else
+  constexpr int order = even | odd << 2 | (even + 2) << 4 | (odd + 2) << 6;
+  return _mm_shufflehi_epi16(_mm_shufflelo_epi16(v, order), order);
+#endif
+}
+inline Vec evenWords(Vec v) {
+  return wordsOfPairs<0, 0>(v);
+}
+inline Vec oddWords(Vec v) {
+  return wordsOfPairs<1, 1>(v);
+}
+inline Vec exchangedWords(Vec v) {
+  return wordsOfPairs<1, 0>(v);
+}
+// Two vectors of one word each, in turn.
+inline Vec pairsOf(Vec even, Vec odd) {
+  return bitOr(shiftRight32<16>(even), shiftLeft32<16>(odd));
 }
 
 // In lanes.
@@ -156,6 +207,9 @@ inline Vec high16(Vec a, Vec b) {
 // Signed to signed, saturated; in lanes.
 inline Vec pack32(Vec a, Vec b) {
   return QORCC_V(packs_epi32)(a, b);
+}
+inline Vec packSigned16(Vec a, Vec b) {
+  return QORCC_V(packs_epi16)(a, b);
 }
 // Signed to unsigned, saturated; in lanes.
 inline Vec pack16(Vec a, Vec b) {
@@ -361,9 +415,6 @@ inline void store3(uint8_t* p, const Vec3& v) {
 
 #elif defined(__SSE4_1__)
 
-struct alignas(16) Bytes16 {
-  uint8_t at[16];
-};
 // Places p with p % 3 == r.
 template <int size>
 constexpr Bytes16 third(int r) {
@@ -392,14 +443,6 @@ constexpr Bytes16 joinPlaces(int channel) {
   return m;
 }
 
-inline Vec lanes(const Bytes16& m) {
-  const __m128i lane = _mm_load_si128(reinterpret_cast<const __m128i*>(&m));
-#if defined(__AVX2__)
-  return _mm256_broadcastsi128_si256(lane);
-#else
-  return lane;
-#endif
-}
 // Of three vectors the one whose number is place % 3.
 template <int size>
 inline Vec choose(Vec v0, Vec v1, Vec v2) {

@@ -19,10 +19,20 @@ namespace {
   QORCC_MATRIX_BOTH(space, _16s, -32768, 65535) \
   QORCC_MATRIX_BOTH(space, _32f, 0, 1)
 
-QORCC_MATRIX_BOTH(Ycbcr601, , 0, 255)
-QORCC_MATRIX_BOTH(Ycbcr709Hdtv, , 0, 255)
-QORCC_MATRIX_BOTH(Ycbcr709Csc, , 0, 255)
-QORCC_MATRIX_BOTH(Yuv, , 0, 255)
+constexpr Matrix toColours(const Linear& space, int times) {
+  Matrix r = forRange(inverse(space), 0, 255);
+  r.fromLuma = fromLuma(inverse(space), times);
+  return r;
+}
+#define QORCC_MATRIX_LUMA(space, times)          \
+  QORCC_MATRIX(RgbTo##space, k##space, , 0, 255) \
+  constexpr Matrix kMatrix##space##ToRgb = toColours(k##space, times);
+
+// Of all widths that hold the sums these err for the fewest of the 2^24 colours.
+QORCC_MATRIX_LUMA(Ycbcr601, 319)
+QORCC_MATRIX_LUMA(Ycbcr709Hdtv, 302)
+QORCC_MATRIX_LUMA(Ycbcr709Csc, 300)
+QORCC_MATRIX_LUMA(Yuv, 303)
 QORCC_MATRIX_TYPES(Ycc)
 QORCC_MATRIX_TYPES(Xyz)
 QORCC_MATRIX(Gray, kGray, , 0, 1)

@@ -30,13 +30,14 @@ struct ToHalf {
   bool isKnown = false;
 };
 
-// Three channels of luma and chroma that two pixels share; channel i is
-//   luma (timesLuma a) + chroma[i] (timesChroma (b, c)) + offset[i] >> 16.
-struct FromHalf {
-  int16_t luma = 0, timesLuma = 0;
-  int16_t chroma[3][2] = {}, timesChroma[2] = {};
-  int32_t offset[3] = {};
-  bool isKnown = false;
+// Luma a and chroma b, c to red, green and blue, which is 128 more than sum times >> 16.
+// With x * y = (x y + 2^14) >> 15 and v' = (v - 128) << 8 the sum is luma * a' + offset
+// and, of saturating words, red * c' twice, greenB * b' + greenC * c' once or blue * b'
+// twice.
+struct FromLuma {
+  int16_t luma = 0, offset = 0;
+  int16_t red = 0, greenB = 0, greenC = 0, blue = 0;
+  int16_t times = 0;  // 0: the matrix can't be done like this
 };
 
 struct Matrix {
@@ -47,7 +48,7 @@ struct Matrix {
   Fixed fixed = {};
   Luma luma = {};
   ToHalf toHalf = {};
-  FromHalf fromHalf = {};
+  FromLuma fromLuma = {};
 };
 
 // Where three channels of bytes go: to the planes of a tile, or at once to packed pixels
@@ -86,21 +87,26 @@ void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix&);
 // if there are any.
 void lumaOfThree(const uint8_t* in, bool swapped, int n, const TileRows* planes, uint8_t* luma, const Luma&);
 
-// transforms_half.cpp: what a chroma line adds to the channels of the pixels above it,
-// by which all its rows are made.
+// transforms_luma.cpp: luma and chroma to colours. Where two pixels share a chroma sample,
+// what a line of them adds to the pixels of all its rows.
 struct ChromaTerms {
-  alignas(64) int32_t of[3][kTilePixels / 2 + 16];
+  static constexpr int kSize = kTilePixels + 64;
+  alignas(64) int16_t red[kSize], green[kSize], blue[kSize];  // for each pixel
 };
 // Chroma samples for n pixels, one for two: in the planes b and c, or as pairs in plane
 // b whose first bytes are b's, or c's.
 enum class ChromaOrder { planes, pairs, swappedPairs };
-void termsOfChroma(const TileRows& in, ChromaOrder, int n, const FromHalf&, ChromaTerms&);
+void termsOfChroma(const TileRows& in, ChromaOrder, int n, const FromLuma&, ChromaTerms&);
 // n pixels of the given luma, of which no byte more is read.
-void applyTerms(const uint8_t* luma, const ChromaTerms&, const BytesOut&, int n, const FromHalf&);
+void applyTerms(const uint8_t* luma, const ChromaTerms&, const BytesOut&, int n, const FromLuma&);
 // n pixels of packed 4:2:2: luma at every second byte from `lumaAt`. An odd last pixel
 // has the second chroma byte that is given.
 void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma, const BytesOut&, int n,
-                 const FromHalf&);
+                 const FromLuma&);
+// Each pixel with chroma of its own.
+void coloursOfPlanes(const TileRows& in, const BytesOut&, int n, const FromLuma&);
+
+// transforms_half.cpp
 // Chroma of n pixels in one or two rows of a tile, `apart` bytes from each other, to
 // (n + 1) / 2 samples in the planes b and c. The pixel behind an odd last one is
 // overwritten.

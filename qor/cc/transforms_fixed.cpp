@@ -39,18 +39,27 @@ struct Row {
   }
 };
 
-// Tile rows have room for a whole vector behind their last pixel.
 template <int shift, int twice, bool firstOnly>
-void multiply(const TileRows& in, const BytesOut& out, int n, const Fixed& f) {
-  const uint8_t *pa = in.plane[0], *pb = in.plane[1], *pc = in.plane[2];
-  const Row row0(f, 0), row1(f, 1), row2(f, 2);
-  for (int i = 0; i < n; i += kVec) {
+struct Products {
+  const uint8_t *pa, *pb, *pc;
+  Row row0, row1, row2;
+  bool swapped;
+
+  Vec3 at(int i) const {
     const Vec a = load(pa + i), b = load(pb + i), c = load(pc + i);
     const Pairs ac(a, c), bd(b, twice == 0 ? a : twice == 1 ? b : c);
-    put(out, i, n,
-        {row0.bytes<shift, firstOnly>(ac, bd), row1.bytes<shift, false>(ac, bd),
-         row2.bytes<shift, false>(ac, bd)});
+    const Vec first = row0.bytes<shift, firstOnly>(ac, bd), third = row2.bytes<shift, false>(ac, bd);
+    return {swapped ? third : first, row1.bytes<shift, false>(ac, bd), swapped ? first : third};
   }
+  Vec3 last(int i, int) const { return at(i); }
+};
+
+template <int shift, int twice, bool firstOnly>
+void multiply(const TileRows& in, const BytesOut& out, int n, const Fixed& f) {
+  putAll(out,
+         Products<shift, twice, firstOnly>{in.plane[0], in.plane[1], in.plane[2], Row(f, 0), Row(f, 1),
+                                           Row(f, 2), out.swapped},
+         n);
 }
 
 }  // namespace
@@ -61,6 +70,7 @@ void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix& ma
 
 void multiplyFixed(const TileRows& in, const BytesOut& out, int n, const Matrix& matrix) {
   const Fixed& f = matrix.fixed;
+  if (matrix.fromLuma.times != 0) return coloursOfPlanes(in, out, n, matrix.fromLuma);
   if (f.shift == 15) return multiply<15, 2, false>(in, out, n, f);  // no factor needs two shares
   if (f.twice == 0) return multiply<14, 0, false>(in, out, n, f);
   // Luma and chroma to channels, of which the first knows no Cb.
