@@ -128,15 +128,38 @@ class Run {
   // Rows that are stored together.
   void group(const Place& at) {
     if (chroma_ == Chroma::halfToHalf) return moveGroup(at);
+    if (chroma_ == Chroma::toHalf) return halveGroup(at);
     for (int r = 0; r < at.rows; ++r) row({at.x, at.y + r, at.n, 1, at.height}, r);
-    if (chroma_ == Chroma::none || packs_) return;
-    if (chroma_ != Chroma::toHalf) return store_(target_, at, out_.rows(f_.targetOrder));
+    if (chroma_ != Chroma::none && !packs_) store_(target_, at, out_.rows(f_.targetOrder));
+  }
+
+  void halveGroup(const Place& at) {
+    const bool isPacked = &f_.source == &kC3;
+    for (int r = 0; r < at.rows && !isPacked; ++r) rowOfLuma({at.x, at.y + r, at.n, 1, at.height}, r);
     LineSet lines;
-    for (int c = 0; (lines = f_.target.half->lines(c, at.rows)).count != 0; ++c)
-      chromaOfPairs(rowOf(in_, kOrder_abc, lines.first), lines.count, lines.apart * kRowBytes,
-                    rowOf(out_, kOrder_abc, c), at.n, matrix_.toHalf);
+    for (int c = 0; (lines = f_.target.half->lines(c, at.rows)).count != 0; ++c) {
+      const TileRows out = rowOf(out_, kOrder_abc, c);
+      if (isPacked)
+        halveThree(pixelRows(at, lines), f_.sourceOrder[0] != 0, at.n, out.plane[1], out.plane[2], matrix_);
+      else
+        chromaOfPairs(rowOf(in_, kOrder_abc, lines.first), lines.count, lines.apart * kRowBytes, out, at.n,
+                      matrix_.toHalf);
+    }
     f_.target.half->store(target_, at, out_.rows(f_.targetOrder));
   }
+
+  PixelRows pixelRows(const Place& at, const LineSet& lines) {
+    PixelRows rows = {};
+    for (int k = 0; k < lines.count; ++k) {
+      const int r = lines.first + k * lines.apart;
+      const Place place = {at.x, at.y + r, at.n, 1, at.height};
+      rows.pixels[k] = pixelsOfThree(place);
+      rows.luma[k] = lumaRows(place, rowOf(out_, kOrder_abc, r)).plane[0];
+    }
+    return rows;
+  }
+
+  const uint8_t* pixelsOfThree(const Place& at) const { return source_.row(0, at.y) + ptrdiff_t{3} * at.x; }
 
   // Samples only move; two chroma lines may become one.
   void moveGroup(const Place& at) {
@@ -164,7 +187,7 @@ class Run {
     const TileRows out = rowOf(out_, kOrder_abc, r);
     if (!f_.transform.apply) return load_(source_, at, rowOf(out_, f_.sourceOrder, r));
     if (chroma_ == Chroma::fromHalf) return rowFromHalf(at, out);
-    if (chroma_ == Chroma::toHalf || chroma_ == Chroma::none) return rowOfLuma(at, r, out);
+    if (chroma_ == Chroma::none) return rowOfLuma(at, r);
     const TileRows in = planesOf(at);
     if (packs_) return multiplyFixed(in, bytesOut(at, out), at.n, matrix_);
     // First, since a transform of four channels writes alpha anew.
@@ -172,11 +195,10 @@ class Run {
     f_.transform.apply(in, out, at.n, matrix_);
   }
 
-  void rowOfLuma(const Place& at, int r, const TileRows& out) {
-    const TileRows in = rowOf(in_, kOrder_abc, r), luma = lumaRows(at, out);
+  void rowOfLuma(const Place& at, int r) {
+    const TileRows in = rowOf(in_, kOrder_abc, r), luma = lumaRows(at, rowOf(out_, kOrder_abc, r));
     if (&f_.source == &kC3)
-      return lumaOfThree(source_.row(0, at.y) + ptrdiff_t{3} * at.x, f_.sourceOrder[0] != 0, at.n,
-                         chroma_ == Chroma::none ? nullptr : &in, luma.plane[0], matrix_.luma);
+      return lumaOfThree(pixelsOfThree(at), f_.sourceOrder[0] != 0, at.n, luma.plane[0], matrix_.luma);
     load_(source_, at, rowOf(in_, f_.sourceOrder, r));
     applyLuma(in, luma, at.n, matrix_);
   }

@@ -99,45 +99,37 @@ constexpr Fixed fixedPoint(const Linear& a) {
   return r;
 }
 
-// Row 0 in 15 bits, of which the lower seven and the upper eight have products of
-// their own.
+// Each product loses half a unit on the average.
 constexpr Luma lumaOf(const Linear& a) {
   Luma r;
-  double middle = a.offset[0] * 255 + 0.5, most = middle;
-  int low = 0, high = 0;
+  double most = a.offset[0] * 255 + 0.5;
   for (int j = 0; j < 3; ++j) {
-    const int factor = toNearest(a.m[0][j] * 32768);
-    if (factor < 0 || factor >= 32768) return {};
-    r.high[j] = static_cast<uint8_t>(factor >> 7);
-    r.low[j] = static_cast<uint8_t>(factor & 127);
-    middle += 128 * a.m[0][j];
+    if (a.m[0][j] < 0 || a.m[0][j] >= 0.9999) return {};
+    r.of[j] = static_cast<uint16_t>(toNearest(a.m[0][j] * 65536));
     most += 255 * a.m[0][j];
-    low += r.low[j];
-    high += r.high[j];
   }
-  r.offset = static_cast<uint16_t>(toNearest(middle * 256));
-  // Sums of bytes less 128 have to be words, and no result may need clamping.
-  r.isKnown = low < 256 && high < 257 && r.high[0] + r.high[1] < 256 && a.offset[0] >= 0 && most < 256;
+  r.offset = static_cast<uint16_t>(toNearest((a.offset[0] * 255 + 0.5) * 256 + 1));
+  // No result may need clamping.
+  r.isKnown = a.offset[0] >= 0 && most < 256;
   return r;
 }
 
-// Rows 1 and 2 in 15 bits for sums of four samples.
+// Rows 1 and 2, in which the factors of a gray come to nothing, in 15 bits for sums of
+// four samples.
 constexpr ToHalf toHalf(const Linear& a) {
   ToHalf r;
   for (int i = 0; i < 2; ++i) {
-    double middle = a.offset[i + 1] * 255 + 0.5, least = middle, most = middle;
-    int ofMiddle = 0;
-    for (int j = 0; j < 3; ++j) {
-      const double factor = a.m[i + 1][j];
+    const auto& row = a.m[i + 1];
+    double least = a.offset[i + 1] * 255 + 0.5, most = least;
+    for (const double factor : row) {
       if (magnitude(factor) >= 0.9999) return {};
-      r.m[i][j] = word(toNearest(factor * 32768));
-      middle += 128 * factor;
-      ofMiddle += r.m[i][j] * 4 * 128;
       (factor < 0 ? least : most) += 255 * factor;
     }
     // A sample beyond the range would have to be held before it goes into the mean.
-    if (least < 0 || most > 256) return {};
-    r.offset[i] = toNearest(middle * (1 << 17)) - ofMiddle;
+    if (magnitude(row[0] + row[1] + row[2]) > 1e-9 || least < 0 || most > 256) return {};
+    r.m[i][0] = word(toNearest(row[0] * 32768));
+    r.m[i][1] = word(toNearest(row[2] * 32768));
+    r.offset[i] = toNearest((a.offset[i + 1] * 255 + 0.5) * (1 << 17));
   }
   r.isKnown = true;
   return r;

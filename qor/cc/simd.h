@@ -61,6 +61,9 @@ inline Vec bitXor(Vec a, Vec b) {
 inline Vec add16(Vec a, Vec b) {
   return QORCC_V(add_epi16)(a, b);
 }
+inline Vec subtract16(Vec a, Vec b) {
+  return QORCC_V(sub_epi16)(a, b);
+}
 inline Vec add32(Vec a, Vec b) {
   return QORCC_V(add_epi32)(a, b);
 }
@@ -103,6 +106,9 @@ inline Vec addPairs(Vec sum, Vec a, Vec b) {
 // The upper word of each product of signed words.
 inline Vec multiplyHigh16(Vec a, Vec b) {
   return QORCC_V(mulhi_epi16)(a, b);
+}
+inline Vec multiplyHighUnsigned16(Vec a, Vec b) {
+  return QORCC_V(mulhi_epu16)(a, b);
 }
 // The low word of each product.
 inline Vec multiply16(Vec a, Vec b) {
@@ -241,6 +247,21 @@ inline Vec inMemoryOrder(Vec packed) {
 // Words of 0..255, kVec of them, to bytes.
 inline Vec narrow(Vec a, Vec b) {
   return inMemoryOrder(pack16(a, b));
+}
+
+// Words of each vector, beyond 0..255 as the nearest, to kVec / 2 bytes.
+inline void storeNarrow(uint8_t* p, Vec a, uint8_t* q, Vec b) {
+  const Vec bytes = narrow(a, b);
+#if defined(__AVX512VBMI__)
+  _mm256_storeu_si256(reinterpret_cast<__m256i*>(p), _mm512_castsi512_si256(bytes));
+  _mm256_storeu_si256(reinterpret_cast<__m256i*>(q), _mm512_extracti64x4_epi64(bytes, 1));
+#elif defined(__AVX2__)
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(p), _mm256_castsi256_si128(bytes));
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(q), _mm256_extracti128_si256(bytes, 1));
+#else
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(p), bytes);
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(q), _mm_unpackhi_epi64(bytes, bytes));
+#endif
 }
 
 // Double words of 0..255, kVec of them, to bytes.

@@ -15,17 +15,16 @@ struct Fixed {
   int twice = 0;
 };
 
-// The first row for bytes: each product is (high 128 + low) (byte - 128), and the
-// result the upper byte of (sum >> 7) + offset.
+// The first row for bytes: the upper byte of the sum of an offset and, for each byte, the
+// upper word of (byte << 8) and its factor.
 struct Luma {
-  uint8_t high[3] = {}, low[3] = {};
-  uint16_t offset = 0;
+  uint16_t of[3] = {}, offset = 0;
   bool isKnown = false;  // the matrix can be done like this
 };
 
-// The other rows, for sums of four samples a, b, c: (m (a, b, c) + offset) >> 17.
+// The other rows, for sums of four samples a, b, c: (m (a - b, c - b) + offset) >> 17.
 struct ToHalf {
-  int16_t m[2][3] = {};
+  int16_t m[2][2] = {};
   int32_t offset[2] = {};
   bool isKnown = false;
 };
@@ -81,12 +80,6 @@ void applyMatrix(const TileRows& in, const TileRows& out, int n, const Matrix&);
 // Bytes.
 void applyFixed(const TileRows& in, const TileRows& out, int n, const Matrix&);
 void multiplyFixed(const TileRows& in, const BytesOut&, int n, const Matrix&);
-// Bytes, row 0 only; writes none behind the last.
-void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix&);
-// The same of n packed pixels of three bytes, a last if swapped; they go to the planes
-// if there are any.
-void lumaOfThree(const uint8_t* in, bool swapped, int n, const TileRows* planes, uint8_t* luma, const Luma&);
-
 // transforms_luma.cpp: luma and chroma to colours. Where two pixels share a chroma sample,
 // what a line of them adds to the pixels of all its rows.
 struct ChromaTerms {
@@ -106,7 +99,17 @@ void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma
 // Each pixel with chroma of its own.
 void coloursOfPlanes(const TileRows& in, const BytesOut&, int n, const FromLuma&);
 
-// transforms_half.cpp
+// transforms_half.cpp: bytes, row 0 only; writes none behind the last.
+void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix&);
+// The same of n packed pixels of three bytes, a last if swapped.
+void lumaOfThree(const uint8_t* in, bool swapped, int n, uint8_t* luma, const Luma&);
+// One row of such pixels, or two that share their chroma, and where their luma goes.
+struct PixelRows {
+  const uint8_t* pixels[2];  // the second may be null
+  uint8_t* luma[2];
+};
+// n pixels of each; (n + 1) / 2 samples of chroma go to rows of a tile.
+void halveThree(const PixelRows&, bool swapped, int n, uint8_t* b, uint8_t* c, const Matrix&);
 // Chroma of n pixels in one or two rows of a tile, `apart` bytes from each other, to
 // (n + 1) / 2 samples in the planes b and c. The pixel behind an odd last one is
 // overwritten.
