@@ -1,5 +1,6 @@
-// direct.cpp: samples that only move, from plane to plane, without a tile.
+// direct.cpp: samples that only move, without a tile.
 #include "formats.h"
+#include "packed16.h"
 #include "packed422.h"
 #include "pairs.h"
 #include "simd.h"
@@ -108,9 +109,35 @@ void swapChroma(const Move& m, const Share& rows) {
   }
 }
 
+void packRow(const uint8_t* in, bool swapped, ptrdiff_t n, uint8_t* out) {
+  const auto pack = [&](uint8_t* to, const uint8_t* from) {
+    const Vec3 v = load3<1>(from);
+    storeFields<5, 6, 5>(to, swapped ? Vec3{v.c, v.b, v.a} : v);
+  };
+  ptrdiff_t i = 0;
+  for (; i + kVec <= n; i += kVec) pack(out + 2 * i, in + 3 * i);
+  if (i == n) return;
+  uint8_t rest[3 * kVec], packed[2 * kVec];
+  __builtin_memcpy(rest, in + 3 * i, 3 * (n - i));
+  pack(packed, rest);
+  __builtin_memcpy(out + 2 * i, packed, 2 * (n - i));
+}
+
+// Three bytes to 5, 6 and 5 bits. Rows without padding are one long row.
+void packThree(const Move& m, const Share& rows) {
+  const bool swapped = m.sourceOrder[0] != m.targetOrder[0];
+  const ptrdiff_t width = m.size.width;
+  if (m.source.step[0] == 3 * width && m.target.step[0] == 2 * width)
+    return packRow(m.source.row(0, rows.first), swapped, width * (rows.last - rows.first),
+                   m.target.row(0, rows.first));
+  for (int y = rows.first; y < rows.last; ++y)
+    packRow(m.source.row(0, y), swapped, width, m.target.row(0, y));
+}
+
 }  // namespace
 
 const DirectCopy kDirectCopies[] = {
+    {&kC3, &kRgb565, ChromaMove::any, packThree},
     {&kP2x420, &kP3x420, ChromaMove::any, splitPairs420},
     {&kP3x420, &kP2x420, ChromaMove::any, mergePairs420},
     {&kYuyv, &kP3x422, ChromaMove::any, splitYuyv},

@@ -78,7 +78,7 @@ struct DirectCopy {
   ChromaMove chroma;  // that it is for
   Copy copy;
 };
-extern const DirectCopy kDirectCopies[6];
+extern const DirectCopy kDirectCopies[7];
 
 extern const Format kC1, kC3, kAC4, kC4, kP3, kP4;
 extern const Format kRgb565, kRgb555, kRgb444, kRgb565Dither, kRgb555Dither, kRgb444Dither;

@@ -1,5 +1,6 @@
 // formats_packed.cpp: interleaved channels, whole planes and 16-bit pixels.
 #include "formats.h"
+#include "packed16.h"
 #include "simd.h"
 
 namespace qor {
@@ -121,13 +122,6 @@ void load16(const Source& s, const Place& at, const TileRows& out) {
 // 0..15, each once, neighbours as unlike as possible (B. E. Bayer, ICC 1973).
 constexpr uint8_t kBayer[4][4] = {{0, 8, 2, 10}, {12, 4, 14, 6}, {3, 11, 1, 9}, {15, 7, 13, 5}};
 
-// Bytes shifted to the left, or to the right if negative, as far as the mask has room.
-template <int left, int mask>
-inline Vec shiftedBytes(Vec bytes) {
-  if constexpr (left >= 0) return bitAnd(shiftLeft16<left>(bytes), all8(mask));
-  return bitAnd(shiftRight16<-left>(bytes), all8(mask));
-}
-
 inline Vec bayerBytes(int y) {
   uint8_t bytes[kVec];
   for (int i = 0; i < kVec; ++i) bytes[i] = kBayer[y & 3][i & 3];
@@ -144,20 +138,15 @@ inline Vec dithered(const uint8_t* bytes, Vec bayer) {
 
 template <int bitsA, int bitsB, int bitsC, bool dither>
 void store16(const Target& d, const Place& at, const TileRows& in) {
-  constexpr int upper = bitsA + bitsB - 8;  // bits of b in the upper byte
   uint8_t* out = d.row(0, at.y) + ptrdiff_t{2} * at.x;
   const uint8_t *a = in.row(0, 0), *b = in.row(1, 0), *c = in.row(2, 0);
   const Vec bayer = bayerBytes(at.y);
   uint8_t rest[2 * kVec];
   for (int i = 0; i < at.n; i += kVec) {
-    const Vec va = dithered<bitsA, dither>(a + i, bayer), vb = dithered<bitsB, dither>(b + i, bayer),
-              vc = dithered<bitsC, dither>(c + i, bayer);
-    const Vec low =
-        bitOr(shiftedBytes<bitsA - 8, (1 << bitsA) - 1>(va), shiftedBytes<upper, 0xFF & -(1 << bitsA)>(vb));
-    const Vec high = bitOr(shiftedBytes<upper - 8, (1 << upper) - 1>(vb),
-                           shiftedBytes<upper + bitsC - 8, ((1 << bitsC) - 1) << upper>(vc));
     uint8_t *whole = out + 2 * i, *to = at.n - i < kVec ? rest : whole;
-    storeZipped8(to, low, high);
+    storeFields<bitsA, bitsB, bitsC>(
+        to, {dithered<bitsA, dither>(a + i, bayer), dithered<bitsB, dither>(b + i, bayer),
+             dithered<bitsC, dither>(c + i, bayer)});
     if (to == rest) __builtin_memcpy(whole, rest, 2 * (at.n - i));
   }
 }
