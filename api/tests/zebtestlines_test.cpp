@@ -5,32 +5,15 @@
 #include "zebiterator.h"
 #include "zebsession.h"
 #include "zebsformat.h"
-#include "zebticker.h"
 
 TEST(Figures, KeepAboutThreeDigits) {
   FakeTest test;
-  struct {
-    double x;
-    const char* text;
-  } cases[] = {{0, ""},           {100, "100"},        {99.94, "99.9"},      {10, "10.0"},
-               {9.994, "9.99"},   {1, "1.00"},         {0.0001, "0.000100"}, {0.00009, "9.000e-05"},
-               {1e7, "10000000"}, {1.1e7, "1.100e+07"}};
-  for (auto& c : cases) EXPECT_EQ(test.formatClocks(c.x), c.text) << c.x;
-}
-
-TEST(Padding, WritesWideNumbersWithThreeDigits) {
+  const std::pair<double, const char*> cases[] = {
+      {0, ""},     {100, "100"},         {99.94, "99.9"},        {10, "10.0"},      {9.994, "9.99"},
+      {1, "1.00"}, {0.0001, "0.000100"}, {0.00009, "9.000e-05"}, {1e7, "10000000"}, {1.1e7, "1.100e+07"}};
+  for (const auto& [x, text] : cases) EXPECT_EQ(test.formatClocks(x), text) << x;
   EXPECT_EQ(sFormat(1234567890, 9) + sFormat(1234567890, 10), " 1.23e+091234567890");
   EXPECT_EQ(sFormat(12345678901LL, 9), " 1.23e+10");
-}
-
-TEST(ResultLine, NamesAccuracyOnlyForMethodsThatReachOne) {
-  FakeTest test;
-  test.m_tool.m_accuracy = 0.02;
-  test.m_tool.m_comment = "nLps=4";
-  test.m_tool.m_funcTicks = 250;
-  EXPECT_EQ(test.testResultString(), "  acc=2.0%   nLps=4      perf=      250/        1=      250 clocks");
-  test.m_tool.m_method = zebTool::methodManual;
-  EXPECT_EQ(test.testResultString(), "  nLps=4      perf=      250/        1=      250 clocks");
 }
 
 TEST(TableLines, TurnTheParametersLikeAnOdometerAndEndWithTheDeprecatedOnes) {
@@ -39,9 +22,7 @@ TEST(TableLines, TurnTheParametersLikeAnOdometerAndEndWithTheDeprecatedOnes) {
   zebTest::m_numParmsColm = 4;
   zebTest::m_numResultColm = 2;
   zebSession::m_nameMode = 1;
-  zebCpuTicker::m_freqMHz = 1000;
-  zebIterator<int> size(0, "size", "");
-  zebIterator<int> fast(0, "fast", "");
+  zebIterator<int> size(0, "size", ""), fast(0, "fast", "");
   for (int v : {4, 5}) size.add(v);
   for (int v : {7, 8}) fast.add(v);
   size.m_deprecatedValues.push_back(4);
@@ -60,16 +41,12 @@ TEST(TableLines, TurnTheParametersLikeAnOdometerAndEndWithTheDeprecatedOnes) {
 TEST(RegistrationText, TellsWhichFunctionIsCalled) {
   FakeTest test;
   test.m_funcCall = test.m_funcInit = [] { return 0; };
-  test.m_funcStat = [](int*, long long*) { return resOk; };
   test.m_tool.m_method = zebTool::methodStatistic;
   EXPECT_EQ(test.regInfo(),
-            "   Test has been registered by FAKE_REG macro with loopMethod, statMethod, funcCall, funcInit.\n"
-            "   statMethod is called for measuring.");
+            "   Test has been registered by FAKE_REG macro with loopMethod, funcCall, funcInit.\n"
+            "   loopMethod is called for measuring.");
+  test.m_funcStat = [](int*, long long*) { return resOk; };
+  EXPECT_TRUE(contains(test.regInfo(), "\n   statMethod is called for measuring."));
   test.m_tool.m_setUse = true;
   EXPECT_TRUE(contains(test.regInfo(), "\n   funcCall with Set&Use is called for measuring."));
-  FakeTest none("none", "Plain/what it does");
-  none.m_funcLoop = nullptr;
-  EXPECT_EQ(none.regInfo(),
-            "   Test has been registered without any function to call.\n"
-            " No standard timing method is available");
 }

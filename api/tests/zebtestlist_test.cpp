@@ -1,4 +1,4 @@
-// Which tests run, in which order, and how they are counted.
+// Which tests run, in which order, and which parameters they need.
 #include "zebtestlist.h"
 
 #include <gtest/gtest.h>
@@ -11,8 +11,7 @@
 
 namespace {
 
-class TestList : public ::testing::Test {
- protected:
+struct TestList : testing::Test {
   ~TestList() override { tests.deleteTests(); }
 
   FakeTest* add(const zebString& name, const zebString& info = "Class") {
@@ -25,9 +24,7 @@ class TestList : public ::testing::Test {
   zebConditions all;
 };
 
-}  // namespace
-
-TEST(Selection, CombinesTheRulesOfTheKeys) {
+TEST_F(TestList, RunsWhatTheRulesOfTheKeysSelect) {
   const struct {
     const char *keys, *name;
     bool runs;
@@ -39,12 +36,14 @@ TEST(Selection, CombinesTheRulesOfTheKeys) {
       {"-frgb", "RGB_8u", false},           {"-tTim", "RGB_8u", true},
       {"-t=Tim", "RGB_8u", false},          {"-t=TimXYZ", "RGB_8u", true},
       {"-t-XYZ", "RGB_8u", false},          {"-t+XYZ -fYUV", "RGB_8u", false},
+      {"-HONLY", "RGB_8u", true},           {"-HONLY", "RGB_8u_C3", false},
   };
+  zebRegHotFunction("RGB_8u");
   for (const auto& c : cases) {
     KeyRun run;
     EXPECT_TRUE(run.parse(c.keys));
-    FakeTest test(c.name, "TimXYZ//REG");
-    EXPECT_EQ(test.tobeRun(*run.m_session.m_pConditions), c.runs) << c.name << " " << c.keys;
+    EXPECT_EQ(add(c.name, "TimXYZ//REG")->tobeRun(*run.m_session.m_pConditions), c.runs)
+        << c.name << " " << c.keys;
   }
 }
 
@@ -65,56 +64,21 @@ TEST_F(TestList, SortsStablyMoreTestsThanOneBinHolds) {
   EXPECT_EQ(i, 1000);
 }
 
-TEST_F(TestList, RunsOnlyHotFunctionsWhenAskedTo) {
-  zebRegHotFunction("hot_8u");
-  zebTest::m_hot = 2;
-  EXPECT_TRUE(add("hot_8u")->tobeRun(all));
-  EXPECT_FALSE(add("hot_8u_C3")->tobeRun(all));
-  zebTest::m_hot = 0;
-}
-
-TEST_F(TestList, CountsTestsFromTheNameOfTheKeyOnThatHaveASection) {
-  Capture console(outErr);
-  TempFile ini("[one]\n[two_8u]\n[four]\n");
-  for (const char* name : {"one", "two_8u", "three", "four"}) add(name);
-  zebTestList::m_startFunc = "two";
-  zebTest::m_pressing = g_istrm.setIniFile(ini.name(), false);
-  EXPECT_EQ(tests.runTests(all), 0);
-  EXPECT_EQ(tests.m_total, 2);
-  zebTest::m_pressing = false;
-  g_istrm.deleteIniFile();
-}
-
-TEST_F(TestList, CountsOutcomesByClassAndAnswersOneAfterAnError) {
-  Capture console(outErr);
-  add("bad")->m_start = false;
-  FakeTest* const good = add("good");
-  EXPECT_EQ(tests.runTests(all), 1);
-  EXPECT_EQ(good->m_result, resOk);
-  for (int r = resNotRun; r <= resError; ++r) tests.plus(static_cast<zebResult>(r));
-  tests.plus(static_cast<zebResult>(99));
-  EXPECT_EQ(tests.m_total, 15);
-  EXPECT_EQ(tests.m_counts[resOk], 2);
-  EXPECT_EQ(tests.m_counts[resWarning], 5);
-  EXPECT_EQ(tests.m_counts[resDataError], 2);
-  EXPECT_EQ(tests.m_counts[resError], 7) << "whatever isn't a result is an error";
-}
-
-TEST_F(TestList, KeepsOnlyCommonParametersThatSelectedTestsUse) {
+TEST(Session, AsksOnlyForCommonParametersThatSelectedTestsUse) {
   zebDefault<int> used(1, "used", ""), unused(1, "unused", "");
-  FakeTest* const user = add("user");
+  FakeTest *const user = new FakeTest("user"), *const other = new FakeTest("other");
   user->m_startParms.push_back(&used);
-  FakeTest* const other = add("other");
-  FakeTest* const late = add("late");
-  zebList<zebParameter*> parms;
-  parms.push_back(&used);
-  tests.selectCommonParms(all, parms);
-  EXPECT_EQ(*parms.begin(), &used);
-  EXPECT_NE(other->m_calls, "") << "the pass after the last mark ends the search";
-  EXPECT_EQ(late->m_calls, "");
-  EXPECT_TRUE(user->m_parms.empty());
-  parms.push_back(&unused);
-  tests.selectCommonParms(all, parms);
-  EXPECT_EQ(parms.size(), 1);
-  EXPECT_EQ(*parms.begin(), &used);
+  other->m_startParms.push_back(&unused);
+  for (FakeTest* test : {user, other}) zebRegTest(test);
+  for (zebParameter* parm : {&used, &unused}) zebRegParm(*parm);
+  KeyRun run;
+  EXPECT_TRUE(run.parse("-B -s- -fuser"));
+  run.m_session.prepareRun();
+  EXPECT_TRUE(contains(run.m_capture.text(), "\n used = 1\n"));
+  EXPECT_FALSE(contains(run.m_capture.text(), "unused"));
+  EXPECT_TRUE(user->m_parms.empty()) << "as if never started";
+  run.m_session.deleteTestList();
+  g_pParmList->clear();
 }
+
+}  // namespace
