@@ -29,25 +29,18 @@ class KeyRun {
   KeyRun& operator=(const KeyRun&) = delete;
   ~KeyRun() {
     current_path(m_oldFolder);
-    qor_Init = m_oldInit;
-    qorEnvironment = m_oldEnvironment;
     setStartValues();
   }
 
-  // What f answers to this line as the program's arguments, cut as a shell would cut it.
-  template <class F>
-  auto withArguments(const char* line, F f) {
+  // This line as the program's arguments, cut as a shell would cut it.
+  bool parse(const char* line) {
     zebStringList words;
     zebString(line).parse(words, " ");
     words.insert(words.begin(), m_folder.text("bin/prog"));
     char* argv[32];
     int argc = 0;
     for (zebString& word : words) argv[argc++] = const_cast<char*>(word.c_str());
-    return f(argc, argv);
-  }
-
-  bool parse(const char* line) {
-    return withArguments(line, [&](int n, char** words) { return m_session.parseCommandLine(n, words); });
+    return m_session.parseCommandLine(argc, argv);
   }
 
   TempFolder m_folder;
@@ -62,23 +55,18 @@ class KeyRun {
     }
     g_istrm.deleteIniFile();
     g_istrm.m_dataList.clear();
-    g_tool.m_setUse = false;
     zebTool::m_priority = 0;
     zebTest::m_hot = 0;
-    zebTest::m_pressing = zebTest::m_cache = false;
+    zebTest::m_cache = false;
     zebTestList::m_startFunc = "";
     zebSession::m_exitLevel = exitNone;
-    s_version = zebSession::m_nameExit = false;
-    s_hintArg = 0;
-    s_hintHide = true;
+    s_version = false;
     s_cpuType = -1;
     s_numThreads = 0;
   }
 
   static inline QorStatus s_coreAnswer = 0;
   std::filesystem::path m_oldFolder = std::filesystem::current_path();
-  QorStatus (*m_oldInit)() = qor_Init;
-  void (*m_oldEnvironment)() = qorEnvironment;
 };
 
 #endif

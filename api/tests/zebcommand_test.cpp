@@ -1,8 +1,9 @@
+// The keys of a command line, and where it comes from.
 #include "zebcommand.h"
 
 #include <gtest/gtest.h>
 
-#include "capture.h"
+#include "keyrun.h"
 
 namespace {
 
@@ -16,32 +17,39 @@ zebString written(const zebCommandList& keys) {
 }  // namespace
 
 TEST(CommandList, PairsEachKeyWithTheRestOfItsWordOrAWordThatIsNoKeyAndDropsOtherWords) {
-  const struct {
-    const char *line, *keys;
-  } cases[] = {{"-f RGB -B -r", "f(RGB) B() r() "},
-               {"-fabc lost -B", "f(abc) B() "},
-               {"-f+abc -f+ abc -f- abc -f= abc", "f(+abc) f(+abc) f(-abc) f(=abc) "},
-               {"-f-=a -f== abc -da=b -? ?", "f(-=a) f(==) d(a=b) ?(?) "},
-               {"-o /tmp/x -- + //", "o() t(mp/x) -(+) /() "},
-               {"stray other -B one two -v - / -x", "B(one) v(-) x() "},
-               {" -f\tRGB  -f+ 8u;/s- \r\n", "f(RGB) f(+8u) s(-) "},
-               {" ;\n", ""}};
-  for (const auto& c : cases) {
+  const char* const cases[][2] = {{"-f RGB -B -r", "f(RGB) B() r() "},
+                                  {"-f+abc -f+ abc -f- abc -f= abc", "f(+abc) f(+abc) f(-abc) f(=abc) "},
+                                  {"-f-=a -f== abc -da=b -? ?", "f(-=a) f(==) d(a=b) ?(?) "},
+                                  {"-o /tmp/x -- + //", "o() t(mp/x) -(+) /() "},
+                                  {"stray other -B one two -v - / -x", "B(one) v(-) x() "},
+                                  {" -f\tRGB  -f+ 8u;/s- \r\n", "f(RGB) f(+8u) s(-) "}};
+  for (const auto& [line, pairs] : cases) {
     zebCommandList keys;
-    keys.setArgs(c.line);
-    EXPECT_EQ(written(keys), c.keys) << c.line;
+    keys.setArgs(line);
+    EXPECT_EQ(written(keys), pairs) << line;
   }
-  const char* const words[] = {"", "-f", "", "-B"};
-  zebCommandList keys;
-  keys.setArgs(4, const_cast<char**>(words));
-  EXPECT_EQ(written(keys), "f() B() ");
 }
 
-TEST(CommandList, FindsTheLastOfRepeatedKeys) {
-  zebCommandList keys;
-  keys.setArgs("-nfirst -B -nlast");
-  zebString arg;
-  EXPECT_FALSE(keys.getArg('N', arg));
-  EXPECT_TRUE(keys.getArg('n', arg));
-  EXPECT_EQ(arg, "last");
+TEST(CommandLine, IsTheArgumentsOrAFileHereOrBesideTheProgramOrBuiltIn) {
+  const auto write = [](const std::filesystem::path& path, const char* text) { std::ofstream(path) << text; };
+  zebRegCmdLine("-s-");
+  zebRegCmdLine("-FbuiltIn");
+  KeyRun run;
+  const auto startsAt = [&](const char* arguments) {
+    zebTestList::m_startFunc = "nowhere";
+    EXPECT_TRUE(run.parse(arguments));
+    return zebTestList::m_startFunc;
+  };
+  EXPECT_EQ(startsAt(""), "builtIn");
+  EXPECT_TRUE(run.m_session.m_quickMode);
+  EXPECT_TRUE(contains(run.m_capture.text(),
+                       "Command line options: set by _FORCE_CMDLINE preprocessor definition\n-s-: "));
+  write(run.m_folder.path("bin/prog.cfg"), "-Fbeside");
+  EXPECT_EQ(startsAt(""), "beside");
+  EXPECT_FALSE(run.m_session.m_quickMode);
+  write("prog.cfg", "-Fhere");
+  EXPECT_EQ(startsAt(""), "here");
+  EXPECT_EQ(startsAt("-Fargument"), "argument");
+  write("prog.cfg", "");
+  EXPECT_EQ(startsAt(""), "nowhere") << "an empty file counts as found";
 }
