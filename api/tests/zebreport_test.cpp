@@ -2,96 +2,86 @@
 
 #include "capture.h"
 #include "zebpaths.h"
+#include "zebregister.h"
 #include "zebreportend.h"
 #include "zebreportformat.h"
+#include "zebreportlist.h"
 #include "zebreporttest.h"
 #include "zebtest.h"
 
 namespace {
 
-const zebString rule = "+-----------------------------------------------------------------------------+\n";
-
-constexpr time_t start = 1000000000;
-
-// A finished test.
-struct FinishedTest : zebTest {
-  FinishedTest()
-      : zebTest(TestFuncOld(nullptr), "__zebBrelkCpu", "qorcc/src/p_ccrgb_ia",
-                "__zebBrelkCpuTest/Brelk CPU information") {
-    m_startTime = start;
-    m_stopTime = start + 1;
-    m_result = resOk;
-  }
-};
-
-}  // namespace
+constexpr TestFuncOld s_noFunction = nullptr;
 
 TEST(ReportFormat, SetsItemsApartAndLetsALineThatOverrunsLoseItsRightBorder) {
-  zebString f50, f64;
+  zebString f50;
   f50.resize(50, 'f');
-  f64.resize(64, 'f');
   const zebString time = "Thu Nov 19 05:05:12 2026";
-  const struct {
-    zebString name, text, right, line;
-  } cases[] = {
-      {"CPU", "text", "right",
-       "| CPU       : text                                                       right|\n"},
-      {"Nine  char", "x", time, "| Nine  char : x                                      " + time + "|\n"},
+  const zebString cases[][4] = {
       {"Eleven char", "x", time, "| Eleven char : x                                     " + time + "|\n"},
       {"Function", f50, time, "| Function  : " + f50 + " " + time + "\n"},
-      {"Function", f64, "", "| Function  : " + f64 + "|\n"},
-      {"Function", f64 + "f", "", "| Function  : " + f64 + "f\n"},
   };
   zebReportFormat format(1, 12, 14, rightAligned);
-  for (const auto& c : cases) EXPECT_EQ(format.getLine(c.name, ":", c.text, c.right, "", ""), c.line);
-  format.lastLine();
-  EXPECT_EQ(format.getLine("CPU", ":", "text", "", "", ""), "  CPU       : text\n");
+  for (const auto& [name, text, right, line] : cases)
+    EXPECT_EQ(format.getLine(name, ":", text, right, "", ""), line);
 }
 
 TEST(ReportEnd, SortsEachResultIntoItsLines) {
   zebTestList list;
-  list.m_startTime = start;
-  list.m_stopTime = start + 3725;
+  list.m_startTime = 1000000000;
+  list.m_stopTime = list.m_startTime + 3725;
   // One, two, four, ... so that each sum tells its parts.
   for (int r = 0; r < zebResultCount; ++r) {
     for (int i = 0; i < 1 << r; ++i) list.plus(static_cast<zebResult>(r));
   }
-  Capture console(outErr);
-  g_ostrm << zebReportEnd(list);
-  EXPECT_EQ(
-      console.text(),
-      rule +
-          "| ZEB Summary                                                                 |\n"
-          "| .Number of tests : 4095                                                     |\n"
-          "| .Successes       : 2                                                        |\n"
-          "| .Failures        : 1980                                                     |\n"  // 2-5, 7-10
-          "| ...Fails         : 1920                                                     |\n"
-          "| .....-FAIL       : 896                                                      |\n"  // 7, 8 and 9
-          "| .....-EXCPTFAIL  : 1024                                                     |\n"
-          "| ...Warnings      : 60                                                       |\n"
-          "| .....-WARNING    : 52                                                       |\n"  // 2, 4 and 5
-          "| .....-BADSTSWRN  : 8                                                        |\n"
-          "| ...Undefined     : 2113                                                     |\n"  // 0, 6 and 11
-          "| .Total time      : 01:02:05                                                 |\n" +
-          rule);
-}
-
-TEST(ReportTestTitle, TellsADescriptionInListingsThatShowMore) {
-  FinishedTest test;
-  for (int level : {outErr, outWarn}) {
-    Capture console(level);
-    g_ostrm << msgErr << zebReportTestTitle(&test) << msgEnd;
-    EXPECT_EQ(contains(console.text(), "| Description : Brelk CPU information   "), level != outErr);
-  }
+  list.plus(static_cast<zebResult>(99));  // no result, and undefined
+  const zebReportEnd report(list);
+  zebString values;
+  for (auto it = report.begin(); it != report.end(); ++it) values << *++it << " ";
+  // All, successes and failures; fails, FAIL and EXCPTFAIL; warnings, WARNING and BADSTSWRN; undefined, time.
+  EXPECT_EQ(values, "4096 2 1980 1920 896 1024 60 52 8 2114 01:02:05 ");
 }
 
 TEST(SummaryTable, MarksDisturbedUnits) {
-  FinishedTest bad87, badSSX;
-  bad87.m_bad87 = badSSX.m_badSSX = true;
-  bad87.m_result = resCtrlStatus;
-  bad87.m_stopTime = start + 68;
+  zebTest test(s_noFunction, "__zebBrelkCpu", "qorcc/src/p_ccrgb_ia", "__zebBrelkCpuTest/text");
+  test.m_stopTime = test.m_startTime + 68;
+  test.m_result = resCtrlStatus;
   zebPaths::m_exePath = "/opt/bin/zeb";
-  EXPECT_EQ(zebReportTestResult(&bad87).m_table, "-,?,-,-,__zebBrelkCpuTest,68,p_ccrgb_ia,BADSTSWRN,zeb");
-  EXPECT_EQ(zebReportTestResult(&badSSX).m_table, "-,-,-,?,__zebBrelkCpuTest,1,p_ccrgb_ia,OK,zeb");
+  test.m_bad87 = true;
+  EXPECT_EQ(zebReportTestResult(&test).m_table, "-,?,-,-,__zebBrelkCpuTest,68,p_ccrgb_ia,BADSTSWRN,zeb");
+  std::swap(test.m_bad87, test.m_badSSX);
+  EXPECT_EQ(zebReportTestResult(&test).m_table, "-,-,-,?,__zebBrelkCpuTest,68,p_ccrgb_ia,BADSTSWRN,zeb");
   zebPaths::m_exePath = "";
 }
+
+TEST(ReportList, ComparesTheLibrarysFunctionsWithTheTests) {
+  zebTest rgb(s_noFunction, "xRGB", "a/p_one", "TimA//M"), xyz(s_noFunction, "xXYZ", "a/p_two", "TimA//M");
+  zebTestList tests;
+  tests.push_back(&rgb);
+  tests.push_back(&xyz);
+  zebConditions conditions;
+  const auto listed = [&](int mode) {
+    Capture console(outPerf);
+    g_ostrm << zebReportList(tests, conditions, mode);
+    return console.text();
+  };
+  zebStringList functions;
+  zebStringList* const old = g_pLibFuncList;
+  g_pLibFuncList = &functions;
+  // Functions that only help others aren't listed, and if there are no others, tests are.
+  for (const char* name : {"xInitFFT", "xFFTFree", "xMalloc_8u", "xAllocA", "xCloseA", "xPutValA", "xGetSize",
+                           "xSetA_8u", "xGetRotateCenter", "xResizeShift", "xDrawText"}) {
+    functions.push_back(name);
+  }
+  const zebString plain =
+      "   #\tFunction\tTest\tSource\t\n   1\txRGB\tTimA\tp_one\t\n   2\txXYZ\tTimA\tp_two\t\n";
+  EXPECT_EQ(listed(1), plain);
+  for (const char* name : {"xRGB", "xGet_8u", "xSet_8u", "xGet_GetA", "xXYZ", "xRG"})
+    functions.push_back(name);
+  const zebString missing = "-\txGet_8u\t\n-\txSet_8u\t\n-\txGet_GetA\t\n";
+  EXPECT_EQ(listed(1), "Exist\tFunction\t\n+\txRGB\t\n" + missing + "+\txXYZ\t\n-\txRG\t\n");
+  EXPECT_EQ(listed(-1), "Exist\tFunction\t\n" + missing + "-\txRG\t\n");
+  g_pLibFuncList = old;
+}
+
+}  // namespace

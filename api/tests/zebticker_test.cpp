@@ -7,26 +7,10 @@
 
 #include "zebostimer.h"
 
-namespace {
-
 TEST(ProcessorFrequency, IsTakenForTheUsualOneWithinThreePerCent) {
   const int cases[][2] = {{2405, 2400}, {2700, 2660}, {3060, 3060}, {60, 60}, {3300, 3300},
                           {2900, 2900}, {5100, 5100}, {20, 20},     {0, 0},   {2230, 2200}};
   for (auto& [measured, taken] : cases) EXPECT_EQ(nearestTypicalMHz(measured), taken);
-}
-
-TEST(Stopwatch, AddsUpClosedStretchesUntilCleared) {
-  zebCpuTicker ticker;
-  ticker.stop();
-  EXPECT_EQ(ticker.read(), 0) << "a stop without a start";
-  for (int i = 0; i < 2; ++i) {
-    ticker.start();
-    ticker.m_start -= 1000000;
-    ticker.stop();
-  }
-  EXPECT_GE(ticker.read(), 2000000);
-  ticker.clear();
-  EXPECT_EQ(ticker.read(), 0);
 }
 
 TEST(SystemTimer, CountsMicrosecondsWithoutTheDevice) {
@@ -40,5 +24,3 @@ TEST(RealTimeClockDeathTest, MayNotRefuseTheRate) {
   EXPECT_EXIT(LinuxRTClock("/dev/null"), testing::ExitedWithCode(ENOTTY),
               "\n-- zebCpuTicker. ioctl: Setting of IRQ rate fails\n: Inappropriate ioctl for device");
 }
-
-}  // namespace
