@@ -14,7 +14,6 @@ struct CStream : testing::Test {
     stream.lineOut(width);
   }
 
-  Capture screen{outWarn};
   zebCStream stream;
   TableFile file{stream};
 };
@@ -29,16 +28,6 @@ TEST_F(CStream, PadsAndCutsALineToItsWidthAndForgetsItsCells) {
   for (int i = 0; i < 33; ++i) stream << (i < 32 ? "c" : "dropped");
   stream.lineOut(40);
   EXPECT_EQ(file.text().length(), 19 + 64);
-}
-
-TEST_F(CStream, TellsTwoLinesWithTheSameParametersPostponedOnesToo) {
-  stream.identicalLinesStart(2);
-  stream << "f";
-  stream.linePostpone();
-  line("f", "", "new");
-  stream.linePostponeOut(3);
-  EXPECT_TRUE(stream.identicalLinesStop());
-  EXPECT_EQ(screen.text(), " Performance table warning:\n Lines 1 & 2 have identical parameters\n");
 }
 
 }  // namespace

@@ -44,7 +44,8 @@ TEST(Conversion, ReadsValuesAndMarksWhatIsNone) {
     bool isNone, yes, isNeither;
   } cases[] = {{"0X1f", 31, false, false, true}, {" -3abc", -3, false, false, true},
                {"  ", 99, false, false, true},   {"1", 1, false, true, false},
-               {" Yes", 99, true, true, false},  {"no", 99, true, false, false}};
+               {" Yes", 99, true, true, false},  {"true", 99, true, true, false},
+               {"no", 99, true, false, false}};
   for (const auto& c : cases) {
     zebString s = c.text;
     int number = 99;

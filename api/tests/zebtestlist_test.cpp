@@ -64,6 +64,14 @@ TEST_F(TestList, SortsStablyMoreTestsThanOneBinHolds) {
   EXPECT_EQ(i, 1000);
 }
 
+TEST_F(TestList, RunsAllFromTheFirstThatHoldsTheNameOfTheKey) {
+  Capture console(outErr);
+  for (const char* name : {"one", "two_8u", "three"}) add(name);
+  zebTestList::m_startFunc = "two";
+  EXPECT_EQ(tests.runTests(all), 0);
+  EXPECT_EQ(tests.m_total, 2);
+}
+
 TEST(Session, AsksOnlyForCommonParametersThatSelectedTestsUse) {
   zebDefault<int> used(1, "used", ""), unused(1, "unused", "");
   FakeTest *const user = new FakeTest("user"), *const other = new FakeTest("other");
