@@ -2,6 +2,7 @@
 #ifndef SUITE_H
 #define SUITE_H
 
+#include "capture.h"
 #include "mok.h"
 #include "zebtestlist.h"
 
