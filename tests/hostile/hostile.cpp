@@ -1,16 +1,12 @@
 #include "hostile.h"
 
-#include <pthread.h>
 #include <unistd.h>
 
-#include <initializer_list>
+#include <thread>
 
 #include "zebfpu.h"
 
 int g_calls = 0;
-
-// The arguments are those of any pixel function; most functions here look at none of them.
-#define HOSTILE(func) QorStatus func(const Qor8u*, int, Qor8u*, int, QoriSize)
 
 HOSTILE(qoriDivide87_8u_C3R) {
   asm volatile("fld1\n\tfldz\n\tfdivrp\n\tfld1\n\tfwait");
@@ -106,27 +102,15 @@ HOSTILE(qoriWarningLast_8u_C3R) {
   return ++g_calls >= 11 ? qorStsNoOperation : qorStsNoErr;
 }
 
-static void* linger(void*) {
-  zeb_set_ssx(0x4011, 0x603F);
-  usleep(50000);
-  return nullptr;
-}
-
 HOSTILE(qoriThreads_8u_C3R) {
-  pthread_t thread;
-  if (pthread_create(&thread, nullptr, linger, nullptr) != 0) return qorStsNoMemErr;
-  pthread_detach(thread);
+  std::thread([] {
+    zeb_set_ssx(0x4011, 0x603F);
+    usleep(50000);
+  }).detach();
   return qorStsNoErr;
 }
 
-static void* crash(void*) {
-  qoriNull_8u_C3R(nullptr, 0, nullptr, 0, {});
-  return nullptr;
-}
-
 HOSTILE(qoriThreadCrash_8u_C3R) {
-  pthread_t thread;
-  if (pthread_create(&thread, nullptr, crash, nullptr) != 0) return qorStsNoMemErr;
-  pthread_join(thread, nullptr);
+  std::thread([] { qoriNull_8u_C3R(nullptr, 0, nullptr, 0, {}); }).join();
   return qorStsNoErr;
 }

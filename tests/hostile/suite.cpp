@@ -80,30 +80,13 @@ static bool regWitness() {
                                 "TimWitness//none");
 }
 
-// Behind each a witness.
-#define HOSTILE_REG(func)                                                 \
-  MOK_REG(TimHostile, func, (pSrc.p8u, srcStep, pDst.p8u, dstStep, size)) \
+#define HOSTILE_REG(func) MOK_REG(TimHostile, func, (pSrc.p8u, srcStep, pDst.p8u, dstStep, size))
+#define HOSTILE_REG_WITNESSED(func) \
+  HOSTILE_REG(func)                 \
   [[maybe_unused]] static const bool witness_##func = regWitness();
 
-HOSTILE_REG(qoriDivide87_8u_C3R)
-HOSTILE_REG(qoriDivideInt_8u_C3R)
-HOSTILE_REG(qoriIllegal_8u_C3R)
-HOSTILE_REG(qoriNull_8u_C3R)
-HOSTILE_REG(qoriStack_8u_C3R)
-HOSTILE_REG(qoriFlags87_8u_C3R)
-HOSTILE_REG(qoriFlagsSSX_8u_C3R)
-HOSTILE_REG(qoriMasks_8u_C3R)
-HOSTILE_REG(qoriRounding_8u_C3R)
-HOSTILE_REG(qoriPrecision_8u_C3R)
-HOSTILE_REG(qoriDenormals_8u_C3R)
-HOSTILE_REG(qoriRegisters87_8u_C3R)
-HOSTILE_REG(qoriErrorFirst_8u_C3R)
-HOSTILE_REG(qoriErrorFifth_8u_C3R)
-HOSTILE_REG(qoriErrorLast_8u_C3R)
-HOSTILE_REG(qoriWarningFifth_8u_C3R)
-HOSTILE_REG(qoriWarningLast_8u_C3R)
-HOSTILE_REG(qoriThreads_8u_C3R)
-MOK_REG(TimHostile, qoriThreadCrash_8u_C3R, (pSrc.p8u, srcStep, pDst.p8u, dstStep, size))
+HOSTILE_FUNCTIONS(HOSTILE_REG_WITNESSED)
+HOSTILE_REG(qoriThreadCrash_8u_C3R)
 
 static zebResult noClocks(int, long long* clocks) {
   *clocks = 0;
