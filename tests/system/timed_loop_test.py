@@ -20,44 +20,25 @@ COUNTING = r"(add[lq]?|sub[lq]?|inc[lq]?|dec[lq]?|cmp[lq]?|test[lq]?|xor[lq]?|sh
 ALLOWED = re.compile(f"^({LOADING}|{COUNTING})$")
 ZERO = re.compile(r"^v?(pxor|xorps) (%xmm\d+)(,\2)+$")  # loads a float argument that is 0
 RESTORED = re.compile(r"^qoriGamma(Fwd|Inv)_32f_(C3I|AC4I|IP3)R$")
-SYMBOL = re.compile(r"^([0-9a-f]+) <_ZL\d+tim_(qori\w+?)_(loop|stat)(iPx|PiPx)>:$")
-LINE = re.compile(r"^\s*([0-9a-f]+):\s+(?:(?:rep|repz|lock|bnd|notrack|data16)\s+)*(\S+)\s*(.*)$")
+FUNCTION = re.compile(r"^[0-9a-f]+ <_ZL\d+tim_(qori\w+?)_(loop|stat)(?:iPx|PiPx)>:\n((?:.+\n)*)", re.M)
+LINE = re.compile(r"^ *([0-9a-f]+):\s+(?:(?:rep|repz|lock|bnd|notrack|data16) +)*(\S+)[ \t]*(.*)$", re.M)
 
 
 class Function:
-    def __init__(self, name, kind):
+    def __init__(self, name, kind, text):
         self.name = name
         self.kind = kind
+        lines = LINE.findall(text)
+        addresses = [int(address, 16) for address, _, _ in lines]
         self.code = {}  # address: (mnemonic, operands, address behind it)
-
-    def add(self, address, mnemonic, operands):
-        if self.code:
-            last = max(self.code)
-            self.code[last] = self.code[last][:2] + (address,)
-        self.code[address] = (mnemonic, operands, None)
+        for here, behind, (_, mnemonic, operands) in zip(addresses, addresses[1:] + [None], lines):
+            self.code[here] = (mnemonic, operands, behind)
 
 
 def read_functions(executable):
     command = ["objdump", "-d", "--no-show-raw-insn", executable]
     text = subprocess.run(command, check=True, capture_output=True, text=True).stdout
-    functions = []
-    current = None
-    for line in text.splitlines():
-        symbol = SYMBOL.match(line)
-        if symbol:
-            current = Function(symbol.group(2), symbol.group(3))
-            functions.append(current)
-        elif not line.strip():
-            current = None
-        elif current and LINE.match(line):
-            address, mnemonic, operands = LINE.match(line).groups()
-            current.add(int(address, 16), mnemonic, operands)
-    return functions
-
-
-def jump_target(operands):
-    target = re.match(r"^([0-9a-f]+)", operands)
-    return int(target.group(1), 16) if target else None
+    return [Function(*parts) for parts in FUNCTION.findall(text)]
 
 
 def successors(function, address):
@@ -66,7 +47,8 @@ def successors(function, address):
         return [None]
     ways = [] if mnemonic.startswith("jmp") else [behind]
     if mnemonic.startswith("j"):
-        ways.append(jump_target(operands))
+        target = re.match(r"^([0-9a-f]+)", operands)
+        ways.append(int(target.group(1), 16) if target else None)
     return ways
 
 
