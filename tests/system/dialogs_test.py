@@ -78,11 +78,6 @@ class Terminal:
         os.close(self.master)
         return status
 
-    def kill(self):
-        self.process.kill()
-        self.process.wait()
-        os.close(self.master)
-
 
 class OnATerminal(ZebTest):
     def test_each_item_is_asked_answered_and_told(self):
@@ -107,7 +102,8 @@ class OnATerminal(ZebTest):
         run.answer("\x04")
         text = run.wait_for(box("End of common specifications"))
         end = text.find(box("End of common specifications"))
-        run.kill()
+        run.process.kill()
+        run.end()
         self.assertGreater(end, 0)
         prompts = [line.split("[")[0].strip() for line in text[:end].splitlines() if "] = " in line]
         self.assertEqual(prompts, ["Method {Auto|Manual|Statistic|Iterative}", "Accuracy, %", "ImageSize"])

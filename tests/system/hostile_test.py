@@ -82,13 +82,11 @@ class Hostile(ZebTest):
 
     def assert_sums(self, run):
         results = [result for result, _ in run.results()]
-        self.assertEqual(run.summary("Number of tests"), str(len(results)))
-        self.assertEqual(run.summary("Successes"), str(results.count("OK")))
-        self.assertEqual(run.summary("Undefined"), str(results.count("FAIL")))
-        failures = len(results) - results.count("OK") - results.count("FAIL")
-        self.assertEqual(run.summary("Failures"), str(failures))
-        self.assertEqual(run.summary("EXCPTFAIL"), str(results.count("EXCPTFAIL")))
-        self.assertEqual(run.summary("BADSTSWRN"), str(results.count("BADSTSWRN")))
+        sums = {result: results.count(result) for result in ("EXCPTFAIL", "BADSTSWRN")}
+        sums |= {"Successes": results.count("OK"), "Undefined": results.count("FAIL")}
+        sums["Failures"] = len(results) - sums["Successes"] - sums["Undefined"]
+        sums["Number of tests"] = len(results)
+        self.assertEqual({line: int(run.summary(line)) for line in sums}, sums)
 
     def test_each_is_told_by_its_result_and_harms_no_other_test(self):
         met = self.check({name: told[0] for name, told in HOSTILE.items()}, "-dMethod=Manual", "-dNumLoops=10")

@@ -1,9 +1,7 @@
 """What a run leaves behind: listing, tables and signal file, as a spreadsheet would read them."""
 
 import csv
-import os
 import re
-import subprocess
 
 import zebrun
 from zebrun import ZebTest, masked
@@ -91,40 +89,6 @@ class Tables(ZebTest):
         self.assertEqual(title, ["   #", "Function", "Test", "Source"])
         self.assertEqual(lines, [row.split("\t")[:4] for row in re.findall(r"^ *\d+\t.*\t$", run.text, re.M)])
         self.assertGreater(len(lines), 1)
-
-
-class Unwritable(ZebTest):
-    def test_files_that_take_no_text_are_told_once_and_the_run_goes_on(self):
-        reading, writing = os.pipe()
-        os.close(reading)
-        done = subprocess.run(
-            [zebrun.PROGRAM, *FAST, "-f=qoriRGBToYCbCr_8u_C3R", "-dImageSize=8x8", "-LPERF", f"-r/dev/fd/{writing}"]
-            + ["-o/dev/full", "-u/dev/full", "-g/dev/full", "-qgood.csv", "-l" + self.folder],
-            pass_fds=[writing],
-            capture_output=True,
-            text=True,
-        )
-        os.close(writing)
-        full = "zeb: /dev/full: not written to its end (No space left on device)\n"
-        self.assertEqual(done.stderr.count(full), 3)
-        self.assertEqual(done.stderr.replace(full, ""), f"zeb: /dev/fd/{writing}: not written to its end (Broken pipe)\n")
-        self.assertEqual(done.returncode, 0)
-        self.assertIn("| -OK         qoriRGBToYCbCr_8u_C3R", done.stdout)
-        self.assertIn("parmNames", self.read("good.csv"))
-
-    def shell(self, command):
-        done = subprocess.run(["bash", "-c", command, zebrun.PROGRAM], cwd=self.folder, capture_output=True, text=True)
-        return done.stderr
-
-    def test_a_console_that_has_gone_stops_nothing(self):
-        self.assertEqual(self.shell('"$0" -hh -o"$PWD/a.txt" | true; exit ${PIPESTATUS[0]}'), "")
-        self.assertEqual(self.shell('"$0" -hh -o"$PWD/b.txt" -r"$PWD/b.csv" <&- >&- 2>&-'), "")
-        listing = self.read("a.txt")
-        self.assertTrue(listing.endswith("If several -h present in command line then only the last key is valid\n"))
-        self.assertEqual(self.read("b.txt").split("EXTENDED HELP")[1], listing.split("EXTENDED HELP")[1])
-        self.assertEqual(self.read("b.csv"), "")
-        full = "zeb: standard output: not written to its end (No space left on device)\n"
-        self.assertEqual(self.shell('"$0" -h > /dev/full'), full)
 
 
 if __name__ == "__main__":

@@ -14,17 +14,18 @@ SANITIZED = "ASAN_OPTIONS" in os.environ
 
 
 class Run:
-    def __init__(self, keys, folder, given="", environment=None):
+    """One run to its end; options are those of subprocess.run."""
+
+    def __init__(self, keys, folder, given="", **options):
+        if "stdin" not in options:
+            options["input"] = given
         done = subprocess.run(
             [os.path.basename(PROGRAM)] + keys,
             executable=PROGRAM,
             cwd=folder,
-            input=given,
             text=True,
-            env=environment,
-            stdout=subprocess.PIPE,
-            stderr=subprocess.PIPE,
             timeout=300,
+            **{"stdout": subprocess.PIPE, "stderr": subprocess.PIPE, **options},
         )
         self.status = done.returncode
         self.text = done.stdout
@@ -55,8 +56,8 @@ class ZebTest(unittest.TestCase):
     def tearDown(self):
         self._folder.cleanup()
 
-    def run_zeb(self, *keys, given="", environment=None):
-        return Run(list(keys), self.folder, given, environment)
+    def run_zeb(self, *keys, given="", **options):
+        return Run(list(keys), self.folder, given, **options)
 
     def path(self, name):
         return os.path.join(self.folder, name)
