@@ -6,13 +6,14 @@
 
 #include "capture.h"
 #include "mokimage.h"
+#include "moktiming.h"
 #include "zebhooks.h"
 
 namespace {
 
 struct PlainTest : mokTest {
   explicit PlainTest(const char* name)
-      : mokTest(nullptr, nullptr, nullptr, nullptr, name, "file", "PlainTest//MOK_REG") {}
+      : mokTest(nullptr, nullptr, nullptr, nullptr, name, "file", "PlainTest//ZEB_REG") {}
   double getFlops() override { return 3; }
   bool canStart() override {
     EXPECT_FALSE(m_checkErrorsOnly);
@@ -37,9 +38,26 @@ TEST(CheckStatus, TellsErrorsAndWarningsAndKeepsTheWorst) {
   EXPECT_TRUE(contains(output.text(), told)) << output.text().c_str();
 }
 
-TEST(FloatFunction, IsOneThatCountsItsOperationsAndHasFloatsInItsName) {
-  EXPECT_TRUE(PlainTest("qoriRGBToHLS_32f_C3R").isFloatFunction());
-  EXPECT_FALSE(PlainTest("qoriRGBToHLS_8u_AC4R").isFloatFunction());
+TEST(ImageTest, IsOfAMacroOfItsOwnAndCountsOperationsOnFloatsAlone) {
+  PlainTest floats("qoriRGBToHLS_32f_C3R"), bytes("qoriRGBToHLS_8u_AC4R");
+  EXPECT_TRUE(floats.isFloatFunction() && !bytes.isFloatFunction());
+  EXPECT_TRUE(contains(bytes.regInfo(), "registered by MOK_REG macro")) << bytes.regInfo().c_str();
+}
+
+int s_calls = 0;
+
+int failThird() {
+  return ++s_calls == 3 ? -5 : 0;
+}
+
+TEST(SingleCalls, EndAtAnError) {
+  qor_GetStatusString = [](QorStatus) { return "Error"; };
+  Capture output(0);
+  int calls = 4;
+  long long clocks = 0;
+  EXPECT_EQ((mokTimeStat<failThird, mokNoRestore>("fail", &calls, &clocks)), resLibError);
+  EXPECT_EQ(s_calls, 3);
+  EXPECT_EQ(calls, 1) << "the first isn't counted, the last wasn't done";
 }
 
 TEST(BlockOutput, ShowsEachOwnerOnceAndBareBlocksAsBytesAtItsLevel) {
