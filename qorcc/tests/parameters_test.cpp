@@ -64,6 +64,7 @@ TEST(ParameterTests, MakeTheImagesThatTheNameAsksForAndDivideByTheElementsThatAr
   };
   for (const auto& c : cases) {
     Combination one(*findTest(c.name), c.size);
+    ASSERT_TRUE(one.ready()) << c.name;
     EXPECT_EQ(layout(*one.image(0)), c.source) << c.name;
     EXPECT_EQ(layout(*one.image(1)), c.destination) << c.name;
     EXPECT_EQ(one->getDivisor(), c.elements) << c.name;
