@@ -2,7 +2,6 @@
 //
 //   qor_accuracy                prints the section
 //   qor_accuracy --write FILE   puts it between FILE's two marks
-//   qor_accuracy --check FILE   fails unless it stands there
 //
 // Fails, too, if a family misses its limit.
 #include <fstream>
@@ -21,17 +20,15 @@ int fail(const std::string& message) {
   return 1;
 }
 
-int inFile(const std::string& option, const std::string& file, const std::string& text) {
+int write(const std::string& file, const std::string& text) {
   std::stringstream content;
   if (!(content << std::ifstream(file).rdbuf())) return fail("can't read " + file);
   const std::string all = content.str();
   const size_t first = all.find(kFirstMark), last = all.find(kLastMark);
   if (first == std::string::npos || last == std::string::npos || last < first)
     return fail("no marks in " + file);
-  const std::string wanted = all.substr(0, first + kFirstMark.size()) + text + all.substr(last);
-  if (option == "--check") return all == wanted ? 0 : fail(file + " tells other figures; see --write");
   std::ofstream out(file);
-  out << wanted;
+  out << all.substr(0, first + kFirstMark.size()) << text << all.substr(last);
   out.close();
   return out ? 0 : fail("can't write " + file);
 }
@@ -39,13 +36,12 @@ int inFile(const std::string& option, const std::string& file, const std::string
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::string option = argc > 1 ? argv[1] : "";
-  const bool hasFile = argc == 3 && (option == "--write" || option == "--check");
-  if (argc > 1 && !hasFile) return fail("usage: qor_accuracy [--write FILE | --check FILE]");
+  const bool hasFile = argc == 3 && std::string(argv[1]) == "--write";
+  if (argc > 1 && !hasFile) return fail("usage: qor_accuracy [--write FILE]");
   std::vector<std::string> complaints;
   const std::string text = section(&complaints);
   if (!hasFile) std::cout << text;
-  int result = hasFile ? inFile(option, argv[2], text) : 0;
+  int result = hasFile ? write(argv[2], text) : 0;
   for (const std::string& c : complaints) result = fail(c);
   return result;
 }
