@@ -23,26 +23,24 @@ class Slice {
   Errors measure(int k) {
     makeColours(k);
     const int count = int(colours_.size());
-    Image source(names_.source, count * wide_, tall_, 0), target(names_.target, count * wide_, tall_, 0);
+    Example example(*subject_.entry, {count * wide_, tall_});
     for (int i = 0; i < count * wide_ * tall_; ++i)
-      setPixel(source, i % (count * wide_), i / (count * wide_));
+      setPixel(example.source, i % (count * wide_), i / (count * wide_));
     for (int i = 0; i < count; ++i)  // what the type made of them
-      for (int c = 0; c < components(names_.source); ++c) colours_[i][c] = source.component(c, i * wide_, 0);
-    Call call = callOf(*subject_.entry, source, target);
+      for (int c = 0; c < names_.source.components(); ++c)
+        colours_[i][c] = example.source.component(c, i * wide_, 0);
+    Call call = example.call();
     call.dither = qorDitherNone, call.noise = 0;
-    around_ = Surroundings(call);
-    measureSurroundings();
+    around_ = Surroundings(call, example.source);
     if (subject_.entry->run(call) != qorStsNoErr) throw std::runtime_error(subject_.entry->name);
     Errors errors;
-    for (int i = 0; i < count; ++i) compare(target, i, errors);
+    for (int i = 0; i < count; ++i) compare(example.target, i, errors);
     return errors;
   }
 
  private:
-  static int components(const Layout& l) { return l.channels == 1 && !l.planar && !l.bits16[0] ? 1 : 3; }
-
   void setPixel(Image& source, int x, int y) const {
-    for (int c = 0; c < components(names_.source); ++c)
+    for (int c = 0; c < names_.source.components(); ++c)
       if (const auto at = locate(names_.source, c, x, y, source.width, source.height))
         source.setValue(*at, colours_[x / wide_][c]);
     if (hasFourth())
@@ -85,15 +83,6 @@ class Slice {
     return names_.source.type == "32f" ? v : std::floor(v + 0.5);
   }
 
-  void measureSurroundings() {
-    around_.least = around_.most = colours_[0][0], around_.mean = 0;
-    for (const Triple& t : colours_) {
-      around_.least = std::min(around_.least, t[0]);
-      around_.most = std::max(around_.most, t[0]);
-      around_.mean += t[0] / double(colours_.size());
-    }
-  }
-
   void compare(const Image& target, int i, Errors& errors) {
     const Layout& l = names_.target;
     if (hasFourth()) around_.fourth = colours_[i][1];
@@ -101,12 +90,12 @@ class Slice {
     Triple terms = {};
     if (l.type == "32f") terms = largestTerms(names_, colours_[i], around_);
     bool isExact = true;
-    for (int c = 0; c < components(l); ++c) {
+    for (int c = 0; c < l.components(); ++c) {
       const int x = i * wide_;
       const double got = target.value(*locate(l, c, x, 0, target.width, tall_));
       const double error = l.bits16[0]       ? (fieldFits(l, int(got), x, 0, c, wanted[c], 1) ? 0 : 2)
                            : l.type == "32f" ? floatError(got, wanted[c], terms[c])
-                                             : countError(c, got, wanted[c]);
+                                             : countError(l, c, got, wanted[c]);
       const bool differs = l.type == "32f" ? float(got) != float(wanted[c]) : error != 0;
       ++errors.values;
       errors.differing += differs;
@@ -115,15 +104,6 @@ class Slice {
     }
     ++errors.colours;
     errors.differingColours += !isExact;
-  }
-
-  double countError(int c, double got, double wanted) const {
-    const Layout& l = names_.target;
-    // A hair more than a half: 2.5 may be 2.4999999 in double.
-    const double nearest = std::floor(std::clamp(wanted, l.low(), l.high()) + 0.5 + 1e-9);
-    const double d = std::abs(got - nearest);
-    const bool isHue = c == 0 && (l.space == "HLS" || l.space == "HSV");
-    return isHue ? std::min(d, l.high() - l.low() - d) : d;
   }
 
   static double floatError(double got, double wanted, double term) {
@@ -159,11 +139,6 @@ std::string row(const Subject& s, const Errors& e, bool isFirst) {
          share(e.differing, e.values) + " | " + share(e.differingColours, e.colours) + " |\n";
 }
 
-// In counts or units in the last place.
-double limit(const Subject& s) {
-  return s.names.target.type == "32f" ? 4 : 1;
-}
-
 }  // namespace
 
 void Errors::add(const Errors& e) {
@@ -191,7 +166,8 @@ Errors measure(const Subject& s, int step) {
 std::string complaint(const Subject& s, const Errors& e, double share) {
   char text[200] = "";
   const bool isMatrix = s.family->isMatrix && s.names.source.type == "8u" && s.names.target.type == "8u";
-  if (e.largest > limit(s))
+  const double limit = s.names.target.type == "32f" ? 4 : 1;  // units in the last place, counts
+  if (e.largest > limit)
     std::snprintf(text, sizeof text, "%s is %g off, of %.9g %.9g %.9g", s.entry->name.c_str(), e.largest,
                   e.worst[0], e.worst[1], e.worst[2]);
   else if (isMatrix && double(e.differingColours) > share * double(e.colours))
@@ -217,38 +193,22 @@ std::string table(std::vector<std::string>* complaints) {
   return text;
 }
 
-// FNV-1a.
-class Hash {
- public:
-  template <class Bytes>
-  void add(const Bytes& bytes) {
-    for (const auto b : bytes) value_ = (value_ ^ uint8_t(b)) * 0x100000001b3;
-  }
-  std::string text() const {
-    char text[20];
-    std::snprintf(text, sizeof text, "%016llx", static_cast<unsigned long long>(value_));
-    return text;
-  }
-
- private:
-  uint64_t value_ = 0xcbf29ce484222325;
-};
-
 }  // namespace
 
 std::string fingerprint() {
-  Hash hash;
+  uint64_t hash = 0xcbf29ce484222325;  // FNV-1a
   std::mt19937 random(1);
   for (const Entry& e : entries())
     for (QoriSize size : {QoriSize{38, 13}, {2003, 8}}) {
-      const Names n = parse(e.name);
-      const QoriSize from = sourceSize(e, size);
-      Image source(n.source, from.width, from.height, 0), target(n.target, size.width, size.height, 0);
-      source.fillRandom(random);
-      if (e.run(callOf(e, source, target)) != qorStsNoErr) throw std::runtime_error(e.name);
-      for (const auto& plane : target.copy()) hash.add(plane);
+      Example example(e, size);
+      example.source.fillRandom(random);
+      if (e.run(example.call()) != qorStsNoErr) throw std::runtime_error(e.name);
+      for (const auto& plane : example.target.copy())
+        for (const uint8_t byte : plane) hash = (hash ^ byte) * 0x100000001b3;
     }
-  return hash.text();
+  char text[20];
+  std::snprintf(text, sizeof text, "%016llx", static_cast<unsigned long long>(hash));
+  return text;
 }
 
 std::string section(std::vector<std::string>* complaints) {

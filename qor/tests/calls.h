@@ -40,20 +40,30 @@ struct Entry {
   bool isMosaic() const { return extra == "Bilinear" || extra == "Adaptive"; }
 };
 
-// The rows of qorccfunctions.def; all functions that there are.
-const std::vector<Entry>& conversions();
+// All functions that there are.
 const std::vector<Entry>& entries();
+const Entry& entryOf(const std::string& name);
 
-// Rows of scratch that a function takes.
-constexpr int kScratchRows = 30;
+// A function with images for it. A mosaic has a row and a column more than are converted: at odd
+// sizes before these, else behind.
+class Example {
+ public:
+  Example(const Entry&, QoriSize target, int padding = 0, Rows = Rows::together);
 
-// A mosaic needs more pixels than are converted: at odd sizes one before them, else one behind.
-QoriSize sourceSize(const Entry&, QoriSize target);
+  const Entry& entry;
+  const Names names;
+  Image source, target;
 
-// Everything but the memory. Kinds of dither take turns with the width.
-Call parameters(const Entry&, QoriSize target);
+  // One that is right in every argument. Gives the target known bytes; in place: the source's pixels.
+  // Kinds of dither take turns with the width.
+  Call call();
+  std::string name() const;  // of the function, and the size
 
-// A call that is right in every argument; in place: of the source's pixels.
-Call callOf(const Entry&, const Image& source, Image& target);
+ private:
+  Image scratch_;  // of an adaptive mosaic
+};
+
+// Every width of some vectors and every remainder of a group of rows.
+std::vector<QoriSize> awkwardSizes();
 
 #endif

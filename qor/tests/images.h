@@ -1,7 +1,4 @@
 // images.h: image memory in which a stray read or write shows.
-//
-// The last byte of each plane lies before a page that can't be touched; bytes
-// between rows are known and compared.
 #ifndef QOR_TESTS_IMAGES_H
 #define QOR_TESTS_IMAGES_H
 
@@ -12,28 +9,24 @@
 
 #include "layouts.h"
 
-// Bytes that end at a forbidden page.
-class EdgeBlock {
- public:
-  explicit EdgeBlock(size_t bytes);
-  ~EdgeBlock();
-  EdgeBlock(const EdgeBlock&) = delete;
+// Rows lie one behind the other or each on pages of its own, at the first or the last bytes of
+// them, between pages that can't be touched.
+enum class Rows { together, atPageStart, atPageEnd };
 
-  uint8_t* data() const { return data_; }
-  size_t size() const { return size_; }
-  std::vector<uint8_t> copy() const { return {data_, data_ + size_}; }
-
- private:
-  uint8_t* map_;
-  size_t mapped_;
-  uint8_t* data_;
-  size_t size_;
+// Without steps: all rows of a plane are one.
+struct Spacing {
+  int padding = 0;  // bytes behind each row; all planes have the same ones
+  Rows rows = Rows::together;
+  bool hasSteps = true;
 };
+
+// The pixels of each plane, without padding.
+using Bytes = std::vector<std::vector<uint8_t>>;
 
 class Image {
  public:
-  // padding: bytes behind each row; all planes have the same one.
-  Image(const Layout&, int width, int height, int padding);
+  Image(const Layout&, int width, int height, const Spacing&);
+  Image(const Image&) = delete;
 
   const Layout layout;
   const int width, height;
@@ -43,11 +36,12 @@ class Image {
   void fillRandom(std::mt19937& random);
   void fillBytes(uint8_t value);
   void copyPixels(const Image& from);  // of the same layout and size
+  Bytes copy() const;
 
-  uint8_t* plane(int p) const { return planes_[p]->data(); }
-  int step(int p) const { return steps_[p]; }
   int planeCount() const { return static_cast<int>(planes_.size()); }
-  std::vector<std::vector<uint8_t>> copy() const;
+  uint8_t* row(int p, int y) const { return planes_[p].first.get() + ptrdiff_t{y} * step(p); }
+  int step(int p) const { return planes_[p].step; }
+  std::vector<Location> locations() const;
 
   double value(const Location&) const;  // 16-bit pixels: the whole word
   void setValue(const Location&, double);
@@ -56,14 +50,19 @@ class Image {
   // unpacked to 0..255.
   double component(int c, int x, int y) const;
 
-  std::vector<bool> mask(int p) const { return std::vector<bool>(planes_[p]->size()); }
-  size_t offset(const Location&) const;  // bytes from the plane's first
-
  private:
+  struct Plane {
+    std::shared_ptr<uint8_t> first;
+    int step;  // bytes
+  };
+
+  static Plane together(int rows, int bytes, int padding);
+  static Plane fenced(int rows, int bytes, Rows);
+  int rowBytes(int p) const { return rowElements(layout, p, width) * layout.elementSize(); }
+  uint8_t* address(const Location&) const;
   double filtered(int c, int x, int y, const Location& near) const;
 
-  std::vector<std::unique_ptr<EdgeBlock>> planes_;
-  std::vector<int> steps_;
+  std::vector<Plane> planes_;
 };
 
 #endif

@@ -64,6 +64,10 @@ double Layout::high() const {
   if (type == "8u" || type == "8s") return type == "8u" ? 255 : 127;
   return type == "16u" ? 65535 : type == "16s" ? 32767 : 2147483647.0;
 }
+int Layout::field(int word, int component) const {
+  for (int below = 0; below < order[component]; ++below) word >>= bits16[below];
+  return word & ((1 << fieldBits(component)) - 1);
+}
 
 Names parse(const std::string& function) {
   static const std::regex form(
@@ -130,21 +134,16 @@ int rowCount(const Layout& l, int plane, int height) {
   return plane == 0 ? height : (height + l.blockHeight - 1) / l.blockHeight;
 }
 
-namespace {
-
-// Bayer's threshold by its recursive definition, 0..15.
-int bayer(int x, int y) {
-  const int two[2][2] = {{0, 2}, {3, 1}};
-  return 4 * two[y & 1][x & 1] + two[y / 2 & 1][x / 2 & 1];
+int bayer(int x, int y, int bits) {
+  constexpr int kTwo[2][2] = {{0, 2}, {3, 1}};
+  if (bits == 0) return 0;
+  const int rest = bits - 1;
+  return kTwo[y & 1][x & 1] * (1 << 2 * rest) + bayer(x >> 1, y >> 1, rest);
 }
 
-}  // namespace
-
 bool fieldFits(const Layout& l, int word, int x, int y, int component, double wanted, double tolerance) {
-  const int field = l.order[component], bits = l.bits16[field];
-  const int shift = field == 0 ? 0 : field == 1 ? l.bits16[0] : l.bits16[0] + l.bits16[1];
-  const int got = word >> shift & ((1 << bits) - 1);
-  const int step = 256 >> bits, threshold = l.dither ? bayer(x, y) * step / 16 : 0;
+  const int got = l.field(word, component), step = 256 >> l.fieldBits(component);
+  const int threshold = l.dither ? bayer(x, y, 2) * step / 16 : 0;
   const auto cut = [&](double v) { return std::min(255, std::clamp(int(v), 0, 255) + threshold) / step; };
   const double v = std::floor(std::clamp(wanted, 0.0, 255.0) + 0.5);
   const bool rest = word >> (l.bits16[0] + l.bits16[1] + l.bits16[2]) == 0;

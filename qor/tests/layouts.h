@@ -22,8 +22,12 @@ struct Layout {
 
   bool subsampled() const { return blockWidth > 1; }
   int pointers() const { return planar ? channels : 1; }
+  int components() const { return channels == 1 && !bits16[0] ? 1 : 3; }  // but for alpha
   int elementSize() const;
   double low() const, high() const;  // of the type; 0 and 1 for floats
+  // Of a 16-bit pixel, for a component.
+  int fieldBits(int component) const { return bits16[order[component]]; }
+  int field(int word, int component) const;
 };
 
 struct Names {
@@ -46,6 +50,10 @@ std::optional<Location> locate(const Layout&, int c, int x, int y, int width, in
 
 // Whether a field of the 16-bit pixel at x, y comes from an 8-bit value within the tolerance.
 bool fieldFits(const Layout&, int word, int x, int y, int component, double wanted, double tolerance);
+
+// The threshold at x, y of an ordered dither, by B. E. Bayer's recursive definition (ICC 1973): each
+// number below 4^bits once among 2^bits rows and columns.
+int bayer(int x, int y, int bits);
 
 // Elements of a row and rows of a plane.
 int rowElements(const Layout&, int plane, int width);

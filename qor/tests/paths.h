@@ -15,19 +15,12 @@ inline std::vector<int> pathCodes() {
   return codes;
 }
 
-// The path for as long as it lives, then the best one again.
+// The path and the number of threads for as long as it lives, then the best path and one thread.
 class OnPath {
  public:
-  explicit OnPath(int code) { qorInitCpu(code); }
-  ~OnPath() { qorInit(); }
+  explicit OnPath(int code, int threads = 1) { qorInitCpu(code), qorSetNumThreads(threads); }
+  ~OnPath() { qorInit(), qorSetNumThreads(1); }
   OnPath(const OnPath&) = delete;
-};
-
-class WithThreads {
- public:
-  explicit WithThreads(int n) { qorSetNumThreads(n); }
-  ~WithThreads() { qorSetNumThreads(1); }
-  WithThreads(const WithThreads&) = delete;
 };
 
 #endif

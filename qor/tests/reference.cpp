@@ -9,15 +9,16 @@
 
 namespace {
 
+template <class F>
+Triple each(const Triple& c, F f) {
+  return {f(c[0]), f(c[1]), f(c[2])};
+}
+
 Triple fractions(const Triple& t, const Layout& l) {
-  Triple r;
-  for (int i = 0; i < 3; ++i) r[i] = (t[i] - l.low()) / (l.high() - l.low());
-  return r;
+  return each(t, [&](double v) { return (v - l.low()) / (l.high() - l.low()); });
 }
 Triple elements(const Triple& t, const Layout& l) {
-  Triple r;
-  for (int i = 0; i < 3; ++i) r[i] = l.low() + t[i] * (l.high() - l.low());
-  return r;
+  return each(t, [&](double v) { return l.low() + v * (l.high() - l.low()); });
 }
 
 double transferCurve(double light) {
@@ -76,22 +77,18 @@ Triple toXyz(const Triple& c) {
   return r;
 }
 
-double determinant(const double (&m)[3][3]) {
-  return m[0][0] * (m[1][1] * m[2][2] - m[1][2] * m[2][1]) -
-         m[0][1] * (m[1][0] * m[2][2] - m[1][2] * m[2][0]) +
-         m[0][2] * (m[1][0] * m[2][1] - m[1][1] * m[2][0]);
+// Of three columns.
+double determinant(const Triple& a, const Triple& b, const Triple& c) {
+  return a[0] * (b[1] * c[2] - c[1] * b[2]) - b[0] * (a[1] * c[2] - c[1] * a[2]) +
+         c[0] * (a[1] * b[2] - b[1] * a[2]);
 }
 
 // Cramer's rule: the published inverse has six digits, too few for 16 bits.
 Triple fromXyz(const Triple& xyz) {
-  Triple r;
-  for (int j = 0; j < 3; ++j) {
-    double m[3][3];
-    std::copy(&kXyz[0][0], &kXyz[0][0] + 9, &m[0][0]);
-    for (int i = 0; i < 3; ++i) m[i][j] = xyz[i];
-    r[j] = determinant(m) / determinant(kXyz);
-  }
-  return r;
+  const Triple red = toXyz({1, 0, 0}), green = toXyz({0, 1, 0}), blue = toXyz({0, 0, 1});
+  const double all = determinant(red, green, blue);
+  return {determinant(xyz, green, blue) / all, determinant(red, xyz, blue) / all,
+          determinant(red, green, xyz) / all};
 }
 
 double hue(const Triple& c, double most, double spread) {
@@ -169,23 +166,9 @@ Triple fromLab(const Triple& c) {
                   kWhite[2] * labCurveBack(fy - c[2] / 200)});
 }
 
-// LUV and Lab as fractions of an integer's range.
-constexpr Triple kLuvRange[] = {{0, -134, -140}, {100, 354, 262}},
-                 kLabRange[] = {{0, -128, -128}, {100, 255, 255}};
-Triple plainOf(const Triple& t, const Triple (&range)[2]) {
-  return {t[0] * range[1][0] + range[0][0], t[1] * range[1][1] + range[0][1],
-          t[2] * range[1][2] + range[0][2]};
-}
-Triple codeOf(const Triple& t, const Triple (&range)[2]) {
-  return {(t[0] - range[0][0]) / range[1][0], (t[1] - range[0][1]) / range[1][1],
-          (t[2] - range[0][2]) / range[1][2]};
-}
-
-// YCoCg: plain numbers. `wrap` keeps the low bits of a number.
-using Wrap = std::function<int64_t(int64_t)>;
-Wrap wrapTo(int bytes) {
-  if (bytes == 2) return [](int64_t v) { return int64_t{static_cast<int16_t>(v)}; };
-  return [](int64_t v) { return int64_t{static_cast<int32_t>(v)}; };
+// YCoCg: plain numbers. Lossless: the low bits of a number.
+int64_t wrapped(int64_t v, const Layout& l) {
+  return l.elementSize() == 2 ? static_cast<int16_t>(v) : static_cast<int32_t>(v);
 }
 int64_t half(int64_t v) {
   return (v - (v & 1)) / 2;
@@ -195,7 +178,7 @@ Triple toYcocg(const Triple& c, bool lossless, const Layout& target) {
   const double zero = target.type == "8u" ? 128 : 0;
   const auto [r, g, b] = c;
   if (!lossless) return {(r + 2 * g + b) / 4, (r - b) / 2 + zero, (2 * g - r - b) / 4 + zero};
-  const Wrap wrap = wrapTo(target.elementSize());
+  const auto wrap = [&](int64_t v) { return wrapped(v, target); };
   const int64_t co = wrap(int64_t(r) - int64_t(b)), t = wrap(int64_t(b) + half(co));
   const int64_t cg = wrap(int64_t(g) - t);
   return {double(wrap(t + half(cg))), double(co), double(cg)};
@@ -206,44 +189,54 @@ Triple fromYcocg(const Triple& c, bool lossless, const Layout& source) {
     const double y = c[0], co = c[1] - zero, cg = c[2] - zero;
     return {y - cg + co, y + cg, y - cg - co};
   }
-  const Wrap wrap = wrapTo(source.elementSize());
+  const auto wrap = [&](int64_t v) { return wrapped(v, source); };
   const int64_t y = int64_t(c[0]), co = int64_t(c[1]), cg = int64_t(c[2]);
   const int64_t t = wrap(y - half(cg)), b = wrap(t - half(co));
   return {double(wrap(b + co)), double(wrap(cg + t)), double(b)};
 }
 
-using Map = Triple (*)(const Triple&);
+using Map = std::function<Triple(const Triple&)>;
+
+// A space of three fractions of an element's range, or of numbers from low to low + span.
+struct Space {
+  Map fromRgb, toRgb;
+  Triple low = {0, 0, 0}, span = {1, 1, 1};
+};
+
+const Space& spaceOf(const std::string& name) {
+  static const std::map<std::string, Space> all = {
+      {"YCC", {toYcc, fromYcc}},
+      {"XYZ", {toXyz, fromXyz}},
+      {"HLS", {toHls, fromHls}},
+      {"HSV", {toHsv, fromHsv}},
+      {"LUV", {toLuv, fromLuv, {0, -134, -140}, {100, 354, 262}}},
+      {"Lab", {toLab, fromLab, {0, -128, -128}, {100, 255, 255}}},
+  };
+  return all.at(name);
+}
+
+// Floats of LUV are the numbers themselves.
+bool isPlain(const Layout& l) {
+  return l.space == "LUV" && l.type == "32f";
+}
 
 Triple fromRgb(const Names& n, const Triple& rgb) {
-  static const std::map<std::string, Map> maps = {{"YCC", toYcc}, {"XYZ", toXyz}, {"HLS", toHls},
-                                                  {"HSV", toHsv}, {"LUV", toLuv}, {"Lab", toLab}};
-  const std::string& space = n.target.space;
-  const Triple t = maps.at(space)(fractions(rgb, n.source));
-  if (space == "LUV" && n.target.type == "32f") return t;
-  return elements(space == "LUV"   ? codeOf(t, kLuvRange)
-                  : space == "Lab" ? codeOf(t, kLabRange)
-                                   : t,
-                  n.target);
+  const Space& space = spaceOf(n.target.space);
+  Triple t = space.fromRgb(fractions(rgb, n.source));
+  if (isPlain(n.target)) return t;
+  for (int i = 0; i < 3; ++i) t[i] = (t[i] - space.low[i]) / space.span[i];
+  return elements(t, n.target);
 }
 
 Triple toRgb(const Names& n, const Triple& source) {
-  static const std::map<std::string, Map> maps = {{"YCC", fromYcc}, {"XYZ", fromXyz}, {"HLS", fromHls},
-                                                  {"HSV", fromHsv}, {"LUV", fromLuv}, {"Lab", fromLab}};
-  const std::string& space = n.source.space;
+  const Space& space = spaceOf(n.source.space);
   Triple t = fractions(source, n.source);
-  if (space == "LUV") t = n.source.type == "32f" ? source : plainOf(t, kLuvRange);
-  if (space == "Lab") t = plainOf(t, kLabRange);
-  return elements(maps.at(space)(t), n.target);
+  for (int i = 0; i < 3 && !isPlain(n.source); ++i) t[i] = t[i] * space.span[i] + space.low[i];
+  return elements(space.toRgb(t), n.target);
 }
 
 double weighted(const Triple& c, const double (&w)[3]) {
   return c[0] * w[0] + c[1] * w[1] + c[2] * w[2];
-}
-
-Triple gammaCoded(const Triple& c) {
-  Triple r;
-  for (int i = 0; i < 3; ++i) r[i] = 255 * transferCurve(c[i] / 255);
-  return r;
 }
 
 // Values that fill low..high.
@@ -260,18 +253,14 @@ double reduced(const Names& n, double v, int levels) {
   return n.target.low() + std::floor(place + 0.5) / (levels - 1) * (n.target.high() - n.target.low());
 }
 
-Triple each(const Triple& c, const std::function<double(double)>& f) {
-  return {f(c[0]), f(c[1]), f(c[2])};
-}
-
-// Of an affine map: the offset and the products.
-Triple affineTerms(const Names& n, const Triple& source, const Surroundings& around) {
-  const Triple offset = expected(n, {}, around);
+// The largest of what is added for each result of an affine map: the offset and the products.
+Triple affineTerms(const Map& map, const Triple& source) {
+  const Triple offset = map({});
   Triple most = each(offset, [](double v) { return std::abs(v); });
   for (int j = 0; j < 3; ++j) {
     Triple one = {};
     one[j] = source[j];
-    const Triple product = expected(n, one, around);
+    const Triple product = map(one);
     for (int i = 0; i < 3; ++i) most[i] = std::max(most[i], std::abs(product[i] - offset[i]));
   }
   return most;
@@ -296,24 +285,27 @@ Triple rgbOfLuvTerms(const Triple& luv) {
   const Triple rgb = fromLuv(luv), xyz = toXyz(rgb);
   const double v = luv[0] > 0 ? luv[2] / (13 * luv[0]) + kWhiteV : 1;
   const Triple terms = {std::abs(xyz[0]), xyz[1], 12 * xyz[1] / (4 * v)};
-  Triple most = {};
-  for (int j = 0; j < 3; ++j) {
-    Triple one = {};
-    one[j] = terms[j];
-    const Triple product = fromXyz(one);
-    for (int i = 0; i < 3; ++i) most[i] = std::max(most[i], std::abs(product[i]));
-  }
-  return most;
+  return affineTerms(fromXyz, terms);
 }
 
 }  // namespace
 
-Surroundings::Surroundings(const Call& c)
+Surroundings::Surroundings(const Call& c, const Image& source)
     : coeffs{c.coeffs[0], c.coeffs[1], c.coeffs[2]},
       twist(c.twist),
       low(c.vMin),
       high(c.vMax),
-      levels(c.levels) {}
+      levels(c.levels) {
+  if (!source.layout.space.starts_with("ToneMap")) return;
+  const std::vector<Location> pixels = source.locations();
+  least = most = source.value(pixels[0]);
+  for (const Location& at : pixels) {
+    const double v = source.value(at);
+    least = std::min(least, v);
+    most = std::max(most, v);
+    mean += v / double(pixels.size());
+  }
+}
 
 double twisted(const float (&row)[4], const Triple& source, double fourth) {
   return row[0] * source[0] + row[1] * source[1] + row[2] * source[2] + row[3] * fourth;
@@ -325,7 +317,7 @@ Triple expected(const Names& n, const Triple& source, const Surroundings& around
   if (n.base == "ToneMapLinear")
     return {around.most == around.least ? 0
                                         : 255 * (source[0] - around.least) / (around.most - around.least)};
-  if (n.base == "ToneMapMean") return {127.5 * source[0] / around.mean};
+  if (n.base == "ToneMapMean") return {around.mean == 0 ? 0 : 127.5 * source[0] / around.mean};
   if (n.base.starts_with("ColorTwist")) {
     Triple r;
     for (int i = 0; i < 3; ++i) r[i] = twisted(around.twist[i], source, around.fourth);
@@ -337,7 +329,9 @@ Triple expected(const Names& n, const Triple& source, const Surroundings& around
   if (from == "Color") return {weighted(source, around.coeffs)};
   if (into == "Gray") return {weighted(source, {0.299, 0.587, 0.114})};
   if (into == "YCbCr" || into == "YUV")
-    return lumaSpace(n).into(n.base.ends_with("Gamma") ? gammaCoded(source) : source);
+    return lumaSpace(n).into(n.base.ends_with("Gamma")
+                                 ? each(source, [](double v) { return 255 * transferCurve(v / 255); })
+                                 : source);
   if (from == "YCbCr" || from == "YUV") return lumaSpace(n).from(source);
   if (into == "YCoCg") return toYcocg(source, lossless, n.target);
   if (from == "YCoCg") return fromYcocg(source, lossless, n.source);
@@ -357,5 +351,13 @@ Triple largestTerms(const Names& n, const Triple& source, const Surroundings& ar
   }
   if (n.target.space == "LUV") return luvTerms(source);
   if (n.source.space == "LUV") return rgbOfLuvTerms(source);
-  return affineTerms(n, source, around);
+  return affineTerms([&](const Triple& one) { return expected(n, one, around); }, source);
+}
+
+double countError(const Layout& l, int component, double got, double wanted) {
+  // A hair more than a half: 2.5 may be 2.4999999 in double.
+  const double nearest = std::floor(std::clamp(wanted, l.low(), l.high()) + 0.5 + 1e-9);
+  const double d = std::abs(got - nearest);
+  const bool isHue = component == 0 && (l.space == "HLS" || l.space == "HSV");
+  return isHue ? std::min(d, l.high() - l.low() - d) : d;
 }
