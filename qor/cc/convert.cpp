@@ -65,10 +65,11 @@ Target targetOf(const Function& f, const Argument& image, QoriSize size) {
   return t;
 }
 
-void fillAlpha(Tile& tile, const void* alpha, int elementSize) {
-  uint8_t* row = tile.bytes[3][0];
-  for (int i = 0; i < kTileBytes / elementSize; ++i)
-    __builtin_memcpy(row + i * elementSize, alpha, elementSize);
+template <class E>
+void fillAlpha(Tile& tile, const void* alpha) {
+  E value, *row = reinterpret_cast<E*>(tile.bytes[3][0]);
+  __builtin_memcpy(&value, alpha, sizeof value);
+  for (size_t i = 0; i < kTileBytes / sizeof value; ++i) row[i] = value;
 }
 
 // The log of 1, 2 and 4.
@@ -106,7 +107,12 @@ class Run {
                        ? f.source.groupRows
                        : f.target.groupRows) {}
 
-  void setAlpha(const void* alpha) { fillAlpha(out_, alpha, f_.targetSize); }
+  void setAlpha(const void* alpha) {
+    const auto fill = f_.targetSize == 1   ? fillAlpha<Bytes1>
+                      : f_.targetSize == 2 ? fillAlpha<Bytes2>
+                                           : fillAlpha<Bytes4>;
+    fill(out_, alpha);
+  }
 
   // Rows from `first` to before `last`, which begin with a group of the target.
   void rows(int first, int last, QoriSize size) {
@@ -119,6 +125,7 @@ class Run {
 
  private:
   void tile(const Place& at) {
+    if (chroma_ == Chroma::fromHalf && packs_ && !f_.source.half->isPacked) return packRows(at);
     for (int r = 0; r < at.rows; r += f_.target.groupRows) {
       const int left = at.rows - r, rows = left < f_.target.groupRows ? left : f_.target.groupRows;
       group({at.x, at.y + r, at.n, rows, at.height});
@@ -242,9 +249,25 @@ class Run {
     return bits % f_.sourceSize == 0;
   }
 
+  // Rows one below the other with the same chroma at once.
+  void packRows(const Place& at) {
+    for (int r = 0, count; r < at.rows; r += count) {
+      const int y = at.y + r, line = f_.source.half->line(y, at.height);
+      for (count = 1; r + count < at.rows; ++count)
+        if (f_.source.half->line(y + count, at.height) != line) break;
+      const Place first = {at.x, y, at.n, 1, at.height};
+      applyTerms(source_.row(0, y) + at.x, {count, source_.step[0], target_.step[0]}, termsAt(first, line),
+                 bytesOut(first, out_.rows(kOrder_abc)), at.n, matrix_.fromLuma);
+    }
+  }
+
   void rowFromHalf(const Place& at, const TileRows& out) {
     if (f_.source.half->isPacked) return rowFromPacked(at, out);
-    const int line = f_.source.half->line(at.y, at.height);
+    applyTerms(source_.row(0, at.y) + at.x, {}, termsAt(at, f_.source.half->line(at.y, at.height)),
+               bytesOut(at, out), at.n, matrix_.fromLuma);
+  }
+
+  const ChromaTerms& termsAt(const Place& at, int line) {
     // Interlaced groups have two chroma lines in turn.
     const int k = f_.source.groupRows == 4 ? line & 1 : 0;
     if (held_[k].line != line || held_[k].x != at.x) {
@@ -254,7 +277,7 @@ class Run {
                     terms_[k]);
       held_[k] = {line, at.x};
     }
-    applyTerms(source_.row(0, at.y) + at.x, terms_[k], bytesOut(at, out), at.n, matrix_.fromLuma);
+    return terms_[k];
   }
 
   void rowFromPacked(const Place& at, const TileRows& out) {

@@ -60,6 +60,12 @@ struct BytesOut {
   uint8_t alpha = 0;     // of pixels of 4
 };
 
+// Rows of an image or a tile that are made together.
+struct RowSet {
+  int count = 1;
+  ptrdiff_t inStep = 0, outStep = 0;  // bytes from row to row
+};
+
 // One row of n pixels from the planes `in` to the planes `out`, both of a tile.
 using Apply = void (*)(const TileRows& in, const TileRows& out, int n, const Matrix&);
 
@@ -90,8 +96,9 @@ struct ChromaTerms {
 // b whose first bytes are b's, or c's.
 enum class ChromaOrder { planes, pairs, swappedPairs };
 void termsOfChroma(const TileRows& in, ChromaOrder, int n, const FromLuma&, ChromaTerms&);
-// n pixels of the given luma, of which no byte more is read.
-void applyTerms(const uint8_t* luma, const ChromaTerms&, const BytesOut&, int n, const FromLuma&);
+// n pixels of each row of the given luma, of which no byte more is read.
+void applyTerms(const uint8_t* luma, const RowSet&, const ChromaTerms&, const BytesOut&, int n,
+                const FromLuma&);
 // n pixels of packed 4:2:2: luma at every second byte from `lumaAt`. An odd last pixel
 // has the second chroma byte that is given.
 void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma, const BytesOut&, int n,

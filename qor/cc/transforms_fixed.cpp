@@ -52,6 +52,7 @@ struct Products {
     return {swapped ? third : first, row1.bytes<shift, false>(ac, bd), swapped ? first : third};
   }
   Vec3 last(int i, int) const { return at(i); }
+  void move(ptrdiff_t) {}
 };
 
 template <int shift, int twice, bool firstOnly>

@@ -65,6 +65,7 @@ struct OfPlanes {
             f.bytes(saturatingAdd(saturatingAdd(luma, blue), blue))};
   }
   Vec3 last(int i, int) const { return at(i); }
+  void move(ptrdiff_t) {}  // there is one row only
 };
 
 }  // namespace
@@ -133,14 +134,15 @@ struct OfTerms {
     uint8_t rest[kVec];
     return made(load(__builtin_memcpy(rest, luma + i, count)), i);
   }
+  void move(ptrdiff_t step) { luma += step; }
 };
 
 }  // namespace
 
-void applyTerms(const uint8_t* luma, const ChromaTerms& terms, const BytesOut& out, int n,
+void applyTerms(const uint8_t* luma, const RowSet& rows, const ChromaTerms& terms, const BytesOut& out, int n,
                 const FromLuma& f) {
   const int16_t *first = out.swapped ? terms.blue : terms.red, *third = out.swapped ? terms.red : terms.blue;
-  putAll(out, OfTerms{luma, first, terms.green, third, Factors(f)}, n);
+  putAll(out, OfTerms{luma, first, terms.green, third, Factors(f)}, n, rows);
 }
 
 namespace {
@@ -184,6 +186,7 @@ struct OfPacked {
     rest[2 * count + 1 - lumaAt] = lastChroma;
     return made(rest);
   }
+  void move(ptrdiff_t) {}
 };
 
 }  // namespace
