@@ -36,9 +36,13 @@ constexpr QuickPower kQuickInverse = {
     Eight({2.0764007571020156e-5, 9.6887271238293425e-5, 0.00045208726185902853, 0.0021094916775240355,
            0.0098431332023036966, 0.045929202883612464, 0.21431099571326821, 1.0})};
 
-inline Doubles ofFraction(Doubles x, const double (&terms)[9]) {
+// m - 1.5.
+inline Doubles fraction(Doubles x) {
   const Longs bits = reinterpret_cast<Longs>(x);
-  const Doubles t = reinterpret_cast<Doubles>((bits & 0xFFFFFFFFFFFFF) | 0x3FF0000000000000) - 1.5;
+  return reinterpret_cast<Doubles>((bits & 0xFFFFFFFFFFFFF) | 0x3FF0000000000000) - 1.5;
+}
+
+inline Doubles ofFraction(Doubles t, const double (&terms)[9]) {
   // Even and odd powers apart: a chain of eight sums would be waited for.
   const Doubles square = t * t;
   Doubles even = allDoubles(terms[0]), odd = allDoubles(terms[1]);
@@ -49,10 +53,17 @@ inline Doubles ofFraction(Doubles x, const double (&terms)[9]) {
   return even * square + terms[8] + odd * t;
 }
 
-// Beyond the range of exponents some finite value.
-inline TwoDoubles quickPower(const TwoDoubles& x, const QuickPower& p) {
-  const TwoDoubles factors = ofExponents(p.ofExponent, x);
-  return {ofFraction(x.lower, p.terms) * factors.lower, ofFraction(x.upper, p.terms) * factors.upper};
+// For a plane of a tile: the fractions and then the powers, and their other factor.
+struct alignas(64) Powers {
+  double of[kWidePixels + 16], ofExponents[kWidePixels + 16];
+};
+
+inline void storeBoth(double* p, const TwoDoubles& v) {
+  store(p, reinterpret_cast<Vec>(v.lower));
+  store(p + kFloats / 2, reinterpret_cast<Vec>(v.upper));
+}
+inline Doubles loadDoubles(const double* p) {
+  return reinterpret_cast<Doubles>(load(p));
 }
 
 }  // namespace
@@ -80,14 +91,29 @@ void applyFloatGamma(const TileRows& in, const TileRows& out, int n, const Matri
   const auto bent = [&](Doubles held, Doubles power) {
     return held < knee ? held * c.slope + ofKnee : power * gain + offset;
   };
+  const auto heldAt = [&](const Qor32f* s) { return toDoubles(smaller(larger(loadFloats(s), least), most)); };
+  Powers powers;
   for (int plane = 0; plane < 3; ++plane) {
     const Qor32f* s = reinterpret_cast<const Qor32f*>(in.plane[plane]);
     Qor32f* o = reinterpret_cast<Qor32f*>(out.plane[plane]);
+    // Loops of their own, since a value takes longer than the processor looks ahead.
     for (int i = 0; i < n; i += kFloats) {
-      const TwoDoubles held = toDoubles(smaller(larger(loadFloats(s + i), least), most));
-      const TwoDoubles power = quickPower({held.lower * perWidth + shift, held.upper * perWidth + shift}, p);
+      const TwoDoubles held = heldAt(s + i),
+                       x = {held.lower * perWidth + shift, held.upper * perWidth + shift};
+      storeBoth(powers.of + i, {fraction(x.lower), fraction(x.upper)});
+      // Beyond the range of exponents some finite value.
+      storeBoth(powers.ofExponents + i, ofExponents(p.ofExponent, x));
+    }
+    for (int i = 0; i < n; i += kFloats / 2) {
+      const Doubles power =
+          ofFraction(loadDoubles(powers.of + i), p.terms) * loadDoubles(powers.ofExponents + i);
+      store(powers.of + i, reinterpret_cast<Vec>(power));
+    }
+    for (int i = 0; i < n; i += kFloats) {
+      const TwoDoubles held = heldAt(s + i);
       *reinterpret_cast<FloatsInMemory*>(o + i) =
-          toFloats({bent(held.lower, power.lower), bent(held.upper, power.upper)});
+          toFloats({bent(held.lower, loadDoubles(powers.of + i)),
+                    bent(held.upper, loadDoubles(powers.of + i + kFloats / 2))});
     }
   }
 }
