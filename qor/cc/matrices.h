@@ -135,20 +135,27 @@ constexpr ToHalf toHalf(const Linear& a) {
   return r;
 }
 
-// `times` sets how wide the sums are: 65536 / times for one count of the result.
+// `times` sets how wide the sums are, 65536 / times for one count of the result. The
+// product of blue has to be a word: beyond its width the terms are halved.
 constexpr FromLuma fromLuma(const Linear& a, int times) {
   const double wide = 65536.0 / times;
   // Of bytes that go in 256 times as large, into products that lose 15 bits.
-  const auto factor = [&](double f) { return word(toNearest(f * wide * 128)); };
+  const auto factor = [&](double f) { return toNearest(f * wide * 128); };
+  const bool halved = factor(a.m[2][1]) > 32767;
+  const double ends = halved ? 0.5 : 1;
   double middle = a.offset[1] * 255;
-  for (const double f : a.m[1]) middle += 128 * f;
-  return {factor(a.m[0][0]),
-          word(toNearest((middle - 128 + 0.5) * wide)),
-          factor(a.m[0][2] / 2),
-          factor(a.m[1][1]),
-          factor(a.m[1][2]),
-          factor(a.m[2][1] / 2),
-          word(times)};
+  for (int j = 1; j < 3; ++j) middle += 128 * a.m[1][j];
+  FromLuma r;
+  r.luma = static_cast<uint16_t>(toNearest(a.m[0][0] * wide * 256));
+  // Half a unit is what the product of luma loses on the average.
+  r.offset = word(toNearest((middle - 128 + 0.5) * wide + 0.5));
+  r.red = word(factor(ends * a.m[0][2]));
+  r.greenB = word(factor(a.m[1][1]));
+  r.greenC = word(factor(a.m[1][2]));
+  r.blue = word(factor(ends * a.m[2][1]));
+  r.times = word(times);
+  r.halved = halved;
+  return r;
 }
 
 // For elements that hold 0..1 as low..low + span.

@@ -470,21 +470,25 @@ inline Vec choose(Vec v0, Vec v1, Vec v2) {
   static constexpr Bytes16 third1 = third<size>(1), third2 = third<size>(2);
   return QORCC_V(blendv_epi8)(QORCC_V(blendv_epi8)(v0, v1, lanes(third1)), v2, lanes(third2));
 }
-// Lanes 48 bytes apart.
-inline Vec loadLanes(const uint8_t* p) {
+// Three vectors' lanes in turn.
+inline Vec3 loadLanes(const uint8_t* p) {
 #if defined(__AVX2__)
-  return _mm256_inserti128_si256(_mm256_castsi128_si256(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))),
-                                 _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + 48)), 1);
+  const Vec x0 = load(p), x1 = load(p + 32), x2 = load(p + 64);
+  return {_mm256_blend_epi32(x0, x1, 0xF0), _mm256_permute2x128_si256(x0, x2, 0x21),
+          _mm256_blend_epi32(x1, x2, 0xF0)};
 #else
-  return load(p);
+  return {load(p), load(p + 16), load(p + 32)};
 #endif
 }
-inline void storeLanes(uint8_t* p, Vec v) {
+inline void storeLanes(uint8_t* p, Vec a, Vec b, Vec c) {
 #if defined(__AVX2__)
-  _mm_storeu_si128(reinterpret_cast<__m128i*>(p), _mm256_castsi256_si128(v));
-  _mm_storeu_si128(reinterpret_cast<__m128i*>(p + 48), _mm256_extracti128_si256(v, 1));
+  store(p, _mm256_permute2x128_si256(a, b, 0x20));
+  store(p + 32, _mm256_blend_epi32(c, a, 0xF0));
+  store(p + 64, _mm256_permute2x128_si256(b, c, 0x31));
 #else
-  store(p, v);
+  store(p, a);
+  store(p + 16, b);
+  store(p + 32, c);
 #endif
 }
 // A lane's elements are 1 more than a multiple of 3, or 2 more for words: the vectors
@@ -493,7 +497,7 @@ template <int size>
 inline Vec3 load3(const uint8_t* p) {
   static constexpr Bytes16 split0 = splitPlaces<size>(0), split1 = splitPlaces<size>(1),
                            split2 = splitPlaces<size>(2);
-  const Vec x0 = loadLanes(p), x1 = loadLanes(p + 16), x2 = loadLanes(p + 32);
+  const auto [x0, x1, x2] = loadLanes(p);
   const bool up = size == 2;
   return {QORCC_V(shuffle_epi8)(up ? choose<size>(x0, x1, x2) : choose<size>(x0, x2, x1), lanes(split0)),
           QORCC_V(shuffle_epi8)(up ? choose<size>(x2, x0, x1) : choose<size>(x1, x0, x2), lanes(split1)),
@@ -506,9 +510,8 @@ inline void store3(uint8_t* p, const Vec3& v) {
   const Vec a = QORCC_V(shuffle_epi8)(v.a, lanes(join0)), b = QORCC_V(shuffle_epi8)(v.b, lanes(join1)),
             c = QORCC_V(shuffle_epi8)(v.c, lanes(join2));
   const bool up = size == 2;
-  storeLanes(p, choose<size>(a, b, c));
-  storeLanes(p + 16, up ? choose<size>(c, a, b) : choose<size>(b, c, a));
-  storeLanes(p + 32, up ? choose<size>(b, c, a) : choose<size>(c, a, b));
+  storeLanes(p, choose<size>(a, b, c), up ? choose<size>(c, a, b) : choose<size>(b, c, a),
+             up ? choose<size>(b, c, a) : choose<size>(c, a, b));
 }
 
 #else

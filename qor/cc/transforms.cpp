@@ -29,10 +29,10 @@ constexpr Matrix toColours(const Linear& space, int times) {
   constexpr Matrix kMatrix##space##ToRgb = toColours(k##space, times);
 
 // Of all widths that hold the sums these err for the fewest of the 2^24 colours.
-QORCC_MATRIX_LUMA(Ycbcr601, 319)
-QORCC_MATRIX_LUMA(Ycbcr709Hdtv, 302)
-QORCC_MATRIX_LUMA(Ycbcr709Csc, 300)
-QORCC_MATRIX_LUMA(Yuv, 303)
+QORCC_MATRIX_LUMA(Ycbcr601, 535)
+QORCC_MATRIX_LUMA(Ycbcr709Hdtv, 306)
+QORCC_MATRIX_LUMA(Ycbcr709Csc, 508)
+QORCC_MATRIX_LUMA(Yuv, 542)
 QORCC_MATRIX_TYPES(Ycc)
 QORCC_MATRIX_TYPES(Xyz)
 QORCC_MATRIX(Gray, kGray, , 0, 1)

@@ -30,13 +30,15 @@ struct ToHalf {
 };
 
 // Luma a and chroma b, c to red, green and blue, which is 128 more than sum times >> 16.
-// With x * y = (x y + 2^14) >> 15 and v' = (v - 128) << 8 the sum is luma * a' + offset
-// and, of saturating words, red * c' twice, greenB * b' + greenC * c' once or blue * b'
-// twice.
+// The sum is (luma a >> 8) + offset and, with x * y = (x y + 2^14) >> 15 and
+// v' = (v - 128) << 8, greenB * b' + greenC * c' or, of words that saturate, red * c' or
+// blue * b'; if halved, these twice.
 struct FromLuma {
-  int16_t luma = 0, offset = 0;
+  uint16_t luma = 0;
+  int16_t offset = 0;
   int16_t red = 0, greenB = 0, greenC = 0, blue = 0;
   int16_t times = 0;  // 0: the matrix can't be done like this
+  bool halved = false;
 };
 
 struct Matrix {

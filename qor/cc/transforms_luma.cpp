@@ -23,6 +23,15 @@ inline Halves add(const Halves& a, const Halves& b) {
 inline Halves saturatingAdd(const Halves& a, const Halves& b) {
   return {saturatingAdd16(a.first, b.first), saturatingAdd16(a.second, b.second)};
 }
+inline Vec saturatingAdd(Vec a, Vec b) {
+  return saturatingAdd16(a, b);
+}
+// Red or blue.
+template <bool halved, class Words>
+Words withEnd(const Words& luma, const Words& term) {
+  const Words sum = saturatingAdd(luma, term);
+  return halved ? saturatingAdd(sum, term) : sum;
+}
 
 struct Factors {
   Vec luma, offset, red, greenB, greenC, blue, times;
@@ -36,7 +45,9 @@ struct Factors {
         blue(all16(f.blue)),
         times(all16(f.times)) {}
 
-  Halves plusOffset(const Halves& v) const { return {add16(v.first, offset), add16(v.second, offset)}; }
+  // Of bytes as upper ones of words.
+  Vec ofLuma(Vec words) const { return add16(multiplyHighUnsigned16(words, luma), offset); }
+  Halves ofLumaBytes(Vec bytes) const { return {ofLuma(low8(zero(), bytes)), ofLuma(high8(zero(), bytes))}; }
 
   Vec bytes(const Halves& sums) const {
     return bitXor(packSigned16(multiplyHigh16(sums.first, times), multiplyHigh16(sums.second, times)),
@@ -46,23 +57,23 @@ struct Factors {
 
 // Red and blue exchanged, and with them the chroma that each is made of.
 FromLuma exchanged(const FromLuma& f) {
-  return {f.luma, f.offset, f.blue, f.greenC, f.greenB, f.red, f.times};
+  return {f.luma, f.offset, f.blue, f.greenC, f.greenB, f.red, f.times, f.halved};
 }
 FromLuma inOrder(const FromLuma& f, bool swapped) {
   return swapped ? exchanged(f) : f;
 }
 
 // Pixels each of which has its own chroma.
+template <bool halved>
 struct OfPlanes {
   const uint8_t *a, *b, *c;
   Factors f;
 
   Vec3 at(int i) const {
-    const Halves luma = f.plusOffset(multiply(centred(load(a + i)), f.luma)), ofB = centred(load(b + i)),
-                 ofC = centred(load(c + i)), red = multiply(ofC, f.red), blue = multiply(ofB, f.blue),
-                 green = add(multiply(ofB, f.greenB), multiply(ofC, f.greenC));
-    return {f.bytes(saturatingAdd(saturatingAdd(luma, red), red)), f.bytes(saturatingAdd(luma, green)),
-            f.bytes(saturatingAdd(saturatingAdd(luma, blue), blue))};
+    const Halves luma = f.ofLumaBytes(load(a + i)), ofB = centred(load(b + i)), ofC = centred(load(c + i));
+    const Halves green = add(multiply(ofB, f.greenB), multiply(ofC, f.greenC));
+    return {f.bytes(withEnd<halved>(luma, multiply(ofC, f.red))), f.bytes(saturatingAdd(luma, green)),
+            f.bytes(withEnd<halved>(luma, multiply(ofB, f.blue)))};
   }
   Vec3 last(int i, int) const { return at(i); }
   void move(ptrdiff_t) {}  // there is one row only
@@ -71,10 +82,10 @@ struct OfPlanes {
 }  // namespace
 
 void coloursOfPlanes(const TileRows& in, const BytesOut& out, int n, const FromLuma& f) {
-  const uint8_t *b = in.plane[1], *c = in.plane[2];
-  putAll(out,
-         OfPlanes{in.plane[0], out.swapped ? c : b, out.swapped ? b : c, Factors(inOrder(f, out.swapped))},
-         n);
+  const uint8_t *a = in.plane[0], *b = in.plane[out.swapped ? 2 : 1], *c = in.plane[out.swapped ? 1 : 2];
+  const Factors factors(inOrder(f, out.swapped));
+  f.halved ? putAll(out, OfPlanes<true>{a, b, c, factors}, n)
+           : putAll(out, OfPlanes<false>{a, b, c, factors}, n);
 }
 
 namespace {
@@ -117,17 +128,16 @@ void termsOfChroma(const TileRows& in, ChromaOrder order, int n, const FromLuma&
 
 namespace {
 
+template <bool halved>
 struct OfTerms {
   const uint8_t* luma;
-  const int16_t *red, *green, *blue;
+  const int16_t *first, *second, *third;
   Factors f;
 
   Vec3 made(Vec bytes, int i) const {
-    const Halves v = f.plusOffset(multiply(centred(bytes), f.luma));
-    const Halves first = loadBoth(red + i), third = loadBoth(blue + i);
-    return {f.bytes(saturatingAdd(saturatingAdd(v, first), first)),
-            f.bytes(saturatingAdd(v, loadBoth(green + i))),
-            f.bytes(saturatingAdd(saturatingAdd(v, third), third))};
+    const Halves v = f.ofLumaBytes(bytes);
+    return {f.bytes(withEnd<halved>(v, loadBoth(first + i))), f.bytes(saturatingAdd(v, loadBoth(second + i))),
+            f.bytes(withEnd<halved>(v, loadBoth(third + i)))};
   }
   Vec3 at(int i) const { return made(load(luma + i), i); }
   Vec3 last(int i, int count) const {
@@ -142,14 +152,16 @@ struct OfTerms {
 void applyTerms(const uint8_t* luma, const RowSet& rows, const ChromaTerms& terms, const BytesOut& out, int n,
                 const FromLuma& f) {
   const int16_t *first = out.swapped ? terms.blue : terms.red, *third = out.swapped ? terms.red : terms.blue;
-  putAll(out, OfTerms{luma, first, terms.green, third, Factors(f)}, n, rows);
+  const Factors factors(f);
+  f.halved ? putAll(out, OfTerms<true>{luma, first, terms.green, third, factors}, n, rows)
+           : putAll(out, OfTerms<false>{luma, first, terms.green, third, factors}, n, rows);
 }
 
 namespace {
 
 // Words of pixels in turn: luma in one byte, in the other the chroma of two pixels. What
 // the first colour is made of lies in the even words or in the odd ones.
-template <int lumaAt, bool firstIsEven>
+template <int lumaAt, bool firstIsEven, bool halved>
 struct OfPacked {
   const uint8_t* in;
   uint8_t lastChroma;
@@ -165,14 +177,12 @@ struct OfPacked {
     return upper ? bitAnd(words, all16(0xFF00)) : shiftLeft16<8>(words);
   }
   Sums sums(Vec pixels) const {
-    const Vec words = bitXor(pixels, all8(128)), chroma = byteOf<lumaAt == 0>(words);
-    const Vec luma = add16(multiplyRounded16(byteOf<lumaAt == 1>(words), f.luma), f.offset);
+    const Vec luma = f.ofLuma(byteOf<lumaAt == 1>(pixels));
+    const Vec chroma = bitXor(byteOf<lumaAt == 0>(pixels), all16(0x8000));
     const Vec ends = multiplyRounded16(chroma, ofEnds), middle = multiplyRounded16(chroma, ofMiddle);
-    const Vec red = firstIsEven ? evenWords(ends) : oddWords(ends),
-              blue = firstIsEven ? oddWords(ends) : evenWords(ends);
-    return {saturatingAdd16(saturatingAdd16(luma, red), red),
-            saturatingAdd16(luma, add16(middle, exchangedWords(middle))),
-            saturatingAdd16(saturatingAdd16(luma, blue), blue)};
+    const Vec even = withEnd<halved>(luma, evenWords(ends)), odd = withEnd<halved>(luma, oddWords(ends));
+    return {firstIsEven ? even : odd, saturatingAdd16(luma, add16(middle, exchangedWords(middle))),
+            firstIsEven ? odd : even};
   }
   Vec3 made(const uint8_t* from) const {
     const Halves both = loadAlternateLanes(from);
@@ -189,18 +199,24 @@ struct OfPacked {
   void move(ptrdiff_t) {}
 };
 
+template <bool halved>
+void putPacked(const uint8_t* in, int lumaAt, bool firstIsEven, uint8_t lastChroma, const BytesOut& out,
+               int n, const Factors& f) {
+  if (lumaAt == 0)
+    return firstIsEven ? putAll(out, OfPacked<0, true, halved>{in, lastChroma, f}, n)
+                       : putAll(out, OfPacked<0, false, halved>{in, lastChroma, f}, n);
+  firstIsEven ? putAll(out, OfPacked<1, true, halved>{in, lastChroma, f}, n)
+              : putAll(out, OfPacked<1, false, halved>{in, lastChroma, f}, n);
+}
+
 }  // namespace
 
 void applyPacked(const uint8_t* in, int lumaAt, bool swapped, uint8_t lastChroma, const BytesOut& out, int n,
-                 const FromLuma& fromLuma) {
-  const Factors f(inOrder(fromLuma, out.swapped));
+                 const FromLuma& f) {
   // Red is made of the second of a pair's samples.
   const bool firstIsEven = swapped != out.swapped;
-  if (lumaAt == 0)
-    return firstIsEven ? putAll(out, OfPacked<0, true>{in, lastChroma, f}, n)
-                       : putAll(out, OfPacked<0, false>{in, lastChroma, f}, n);
-  firstIsEven ? putAll(out, OfPacked<1, true>{in, lastChroma, f}, n)
-              : putAll(out, OfPacked<1, false>{in, lastChroma, f}, n);
+  (f.halved ? putPacked<true> : putPacked<false>)(in, lumaAt, firstIsEven, lastChroma, out, n,
+                                                  Factors(inOrder(f, out.swapped)));
 }
 
 }  // namespace qor
