@@ -63,10 +63,11 @@ T zebDefault_NSC<T>::validItem(zebString text) {
   return v;
 }
 
-template <class T>
-class zebDefault : public zebDefault_NSC<T> {
+// Base, a parameter of T, with the text form that T has.
+template <class T, class Base>
+class zebTextForm : public Base {
  public:
-  using zebDefault_NSC<T>::zebDefault_NSC;
+  using Base::Base;
 
   zebString valueToString(T value) const override {
     zebString s;
@@ -76,6 +77,12 @@ class zebDefault : public zebDefault_NSC<T> {
     T value{};
     return value << text;
   }
+};
+
+template <class T>
+class zebDefault : public zebTextForm<T, zebDefault_NSC<T>> {
+ public:
+  using zebTextForm<T, zebDefault_NSC<T>>::zebTextForm;
 };
 
 #endif

@@ -73,18 +73,12 @@ bool zebEnumIterator_NCS<T>::isValid(T value) const {
 }
 
 template <class T>
-class zebEnumIterator : public zebEnumIterator_NCS<T> {
+class zebEnumIterator : public zebTextForm<T, zebEnumIterator_NCS<T>> {
  public:
-  using zebEnumIterator_NCS<T>::zebEnumIterator_NCS;
-
-  zebString valueToString(T value) const override {
-    zebString s;
-    return s << value;
-  }
+  using zebTextForm<T, zebEnumIterator_NCS<T>>::zebTextForm;
 
   T stringToValue(zebString& text) const override {
-    T value{};
-    value << text;
+    const T value = zebTextForm<T, zebEnumIterator_NCS<T>>::stringToValue(text);
     if (this->m_validating && !this->isValid(value)) text.m_failed = true;
     return text.m_failed ? T() : value;
   }

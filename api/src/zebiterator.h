@@ -78,18 +78,9 @@ zebString zebIterator_NSC<T>::listDescr(const zebList<T>& list, const zebString&
 }
 
 template <class T>
-class zebIterator : public zebIterator_NSC<T> {
+class zebIterator : public zebTextForm<T, zebIterator_NSC<T>> {
  public:
-  using zebIterator_NSC<T>::zebIterator_NSC;
-
-  zebString valueToString(T value) const override {
-    zebString s;
-    return s << value;
-  }
-  T stringToValue(zebString& text) const override {
-    T value{};
-    return value << text;
-  }
+  using zebTextForm<T, zebIterator_NSC<T>>::zebTextForm;
 };
 
 #endif
