@@ -464,9 +464,19 @@ constexpr Bytes16 joinPlaces(int channel) {
   return m;
 }
 
+// The same places as bits of a lane's words.
+template <int size>
+constexpr int wordsOfThird(int r) {
+  int bits = 0;
+  for (int q = 0; q < 8; ++q) bits |= (2 * q / size % 3 == r) << q;
+  return bits;
+}
 // Of three vectors the one whose number is place % 3.
 template <int size>
 inline Vec choose(Vec v0, Vec v1, Vec v2) {
+  if constexpr (size > 1)
+    return QORCC_V(blend_epi16)(QORCC_V(blend_epi16)(v0, v1, wordsOfThird<size>(1)), v2,
+                                wordsOfThird<size>(2));
   static constexpr Bytes16 third1 = third<size>(1), third2 = third<size>(2);
   return QORCC_V(blendv_epi8)(QORCC_V(blendv_epi8)(v0, v1, lanes(third1)), v2, lanes(third2));
 }
