@@ -88,6 +88,13 @@ Chroma chromaOf(const Function& f, const Matrix& matrix) {
   return f.target.half && matrix.luma.isKnown && matrix.toHalf.isKnown ? Chroma::toHalf : Chroma::full;
 }
 
+// Null: in stages.
+Fused fusedOf(const Function& f) {
+  if (&f.source != &kC3 || f.sourceOrder[0] != 0 || &f.target != &kC1) return nullptr;
+  if (f.transform.apply == applyLuma) return lumaOfThree;
+  return f.transform.apply == applyGray<Qor32f> ? grayOfThree : nullptr;
+}
+
 // The tiles of one call and what happens to them.
 class Run {
  public:
@@ -100,6 +107,7 @@ class Run {
         store_(f.target.store[sizeIndex(f.targetSize)]),
         pixels_(kTileBytes / (f.sourceSize > f.targetSize ? f.sourceSize : f.targetSize)),
         keepsAlpha_(f.source.channels == 4 && f.target.channels == 4),
+        fused_(fusedOf(f)),
         chroma_(chromaOf(f, matrix)),
         packs_(f.transform.apply == applyFixed && chroma_ != Chroma::toHalf && !keepsAlpha_ &&
                (&f.target == &kC3 || &f.target == &kC4)),
@@ -134,10 +142,18 @@ class Run {
 
   // Rows that are stored together.
   void group(const Place& at) {
+    if (fused_) return fuseRow(at);
     if (chroma_ == Chroma::halfToHalf) return moveGroup(at);
     if (chroma_ == Chroma::toHalf) return halveGroup(at);
     for (int r = 0; r < at.rows; ++r) row({at.x, at.y + r, at.n, 1, at.height}, r);
     if (chroma_ != Chroma::none && !packs_) store_(target_, at, out_.rows(f_.targetOrder));
+  }
+
+  // Of a target that is stored row by row.
+  void fuseRow(const Place& at) {
+    const ptrdiff_t from = ptrdiff_t{f_.source.perPixel} * f_.sourceSize * at.x,
+                    to = ptrdiff_t{f_.target.perPixel} * f_.targetSize * at.x;
+    fused_(source_.row(0, at.y) + from, target_.row(0, at.y) + to, at.n, matrix_);
   }
 
   void halveGroup(const Place& at) {
@@ -204,8 +220,6 @@ class Run {
 
   void rowOfLuma(const Place& at, int r) {
     const TileRows in = rowOf(in_, kOrder_abc, r), luma = lumaRows(at, rowOf(out_, kOrder_abc, r));
-    if (&f_.source == &kC3)
-      return lumaOfThree(pixelsOfThree(at), f_.sourceOrder[0] != 0, at.n, luma.plane[0], matrix_.luma);
     load_(source_, at, rowOf(in_, f_.sourceOrder, r));
     applyLuma(in, luma, at.n, matrix_);
   }
@@ -312,6 +326,7 @@ class Run {
   const Store store_;
   const int pixels_;       // of a tile
   const bool keepsAlpha_;  // from the source; otherwise it is the caller's, if written at all
+  const Fused fused_;      // null: there is none
   const Chroma chroma_;
   const bool packs_;  // the transform does what the store would
   const int groupRows_;

@@ -71,6 +71,12 @@ struct RowSet {
 // One row of n pixels from the planes `in` to the planes `out`, both of a tile.
 using Apply = void (*)(const TileRows& in, const TileRows& out, int n, const Matrix&);
 
+// The same of n packed pixels of three elements, without a tile; no byte behind the last is
+// touched.
+using Fused = void (*)(const uint8_t* in, uint8_t* out, int n, const Matrix&);
+void lumaOfThree(const uint8_t* in, uint8_t* out, int n, const Matrix&);  // bytes to a plane
+void grayOfThree(const uint8_t* in, uint8_t* out, int n, const Matrix&);  // floats to a plane
+
 struct Transform {
   Apply apply;           // null: the planes are taken as they are
   const Matrix* matrix;  // all zero if it has none, or one that is known at the call only
@@ -110,9 +116,7 @@ void coloursOfPlanes(const TileRows& in, const BytesOut&, int n, const FromLuma&
 
 // transforms_half.cpp: bytes, row 0 only; writes none behind the last.
 void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix&);
-// The same of n packed pixels of three bytes, a last if swapped.
-void lumaOfThree(const uint8_t* in, bool swapped, int n, uint8_t* luma, const Luma&);
-// One row of such pixels, or two that share their chroma, and where their luma goes.
+// One row of packed pixels of three bytes, or two that share their chroma, and where their luma goes.
 struct PixelRows {
   const uint8_t* pixels[2];  // the second may be null
   uint8_t* luma[2];

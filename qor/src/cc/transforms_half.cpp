@@ -42,8 +42,8 @@ void applyLuma(const TileRows& in, const TileRows& out, int n, const Matrix& mat
     storeUpTo(to + i, weights.bytes({load(a + i), load(b + i), load(c + i)}), n - i);
 }
 
-void lumaOfThree(const uint8_t* in, bool swapped, int n, uint8_t* luma, const Luma& f) {
-  const LumaWeights weights(f, swapped);
+void lumaOfThree(const uint8_t* in, uint8_t* luma, int n, const Matrix& matrix) {
+  const LumaWeights weights(matrix.luma, false);
   uint8_t rest[3 * kVec];
   for (int i = 0; i < n; i += kVec) {
     const uint8_t* from = in + 3 * i;

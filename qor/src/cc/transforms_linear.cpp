@@ -96,6 +96,24 @@ void applyMatrix(const TileRows& in, const TileRows& out, int n, const Matrix& m
     multiplyVectors<T>(in, out, n, matrix);
 }
 
+// What is left of a row goes through a buffer, as no byte behind it may be touched.
+void grayOfThree(const uint8_t* in, uint8_t* out, int n, const Matrix& matrix) {
+  constexpr int size = sizeof(float);
+  const Floats ma = all(matrix.m[0][0]), mb = all(matrix.m[0][1]), mc = all(matrix.m[0][2]);
+  const auto gray = [&](const uint8_t* pixels) {
+    const Vec3 v = load3<size>(pixels);
+    return reinterpret_cast<Vec>(ma * reinterpret_cast<Floats>(v.a) + mb * reinterpret_cast<Floats>(v.b) +
+                                 mc * reinterpret_cast<Floats>(v.c));
+  };
+  int i = 0;
+  for (; i + kFloats <= n; i += kFloats) store(out + size * i, gray(in + 3 * size * i));
+  if (i == n) return;
+  uint8_t rest[3 * kVec] = {};
+  __builtin_memcpy(rest, in + 3 * size * i, 3 * size * (n - i));
+  store(rest, gray(rest));
+  __builtin_memcpy(out + size * i, rest, size * (n - i));
+}
+
 void applyTwist4(const TileRows& in, const TileRows& out, int n, const Matrix& matrix) {
   const Planes<const Qor32f> s(in);
   const Qor32f* alpha = reinterpret_cast<const Qor32f*>(in.plane[3]);
