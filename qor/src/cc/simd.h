@@ -76,10 +76,6 @@ inline Vec shiftLeft16(Vec v) {
   return QORCC_V(slli_epi16)(v, bits);
 }
 template <int bits>
-inline Vec shiftRightSigned16(Vec v) {
-  return QORCC_V(srai_epi16)(v, bits);
-}
-template <int bits>
 inline Vec shiftRight32(Vec v) {
   return QORCC_V(srli_epi32)(v, bits);
 }
@@ -123,20 +119,10 @@ inline Vec multiplyRounded16(Vec a, Vec b) {
   return add16(add16(high, high), _mm_avg_epu16(low, zero()));
 #endif
 }
-// a0 b0 + a1 b1, in words, for each pair of unsigned bytes a and signed bytes b. The
-// sums must be words.
-inline Vec multiplyBytes(Vec a, Vec b) {
-#if defined(__SSSE3__)
-  return QORCC_V(maddubs_epi16)(a, b);
-#else
-  const Vec evenB = _mm_srai_epi16(shiftLeft16<8>(b), 8), oddB = _mm_srai_epi16(b, 8);
-  return add16(multiply16(bitAnd(a, all16(0xFF)), evenB), multiply16(shiftRight16<8>(a), oddB));
-#endif
-}
 // Sums of neighbouring bytes, in words.
 inline Vec sumsOfPairs(Vec bytes) {
 #if defined(__SSSE3__)
-  return multiplyBytes(bytes, all8(1));
+  return QORCC_V(maddubs_epi16)(bytes, all8(1));
 #else
   return add16(bitAnd(bytes, all16(0xFF)), shiftRight16<8>(bytes));
 #endif
