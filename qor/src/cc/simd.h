@@ -460,9 +460,10 @@ constexpr int wordsOfThird(int r) {
 // Of three vectors the one whose number is place % 3.
 template <int size>
 inline Vec choose(Vec v0, Vec v1, Vec v2) {
-  if constexpr (size > 1)
-    return QORCC_V(blend_epi16)(QORCC_V(blend_epi16)(v0, v1, wordsOfThird<size>(1)), v2,
-                                wordsOfThird<size>(2));
+  if constexpr (size > 1) {
+    constexpr int words1 = wordsOfThird<size>(1), words2 = wordsOfThird<size>(2);
+    return QORCC_V(blend_epi16)(QORCC_V(blend_epi16)(v0, v1, words1), v2, words2);
+  }
   static constexpr Bytes16 third1 = third<size>(1), third2 = third<size>(2);
   return QORCC_V(blendv_epi8)(QORCC_V(blendv_epi8)(v0, v1, lanes(third1)), v2, lanes(third2));
 }
